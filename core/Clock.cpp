@@ -1,0 +1,73 @@
+#include <limits>
+
+#include "core/Game.h"
+#include "core/NumberText.h"
+
+namespace {
+
+std::string TwoDigits(std::int32_t number) {
+  const std::string text = std::to_string(number);
+  return text.size() == 1 ? "0" + text : text;
+}
+
+}  // namespace
+
+std::string TimeString(std::int32_t halfSeconds) {
+  const std::int32_t hours = halfSeconds / 7200;
+  const std::int32_t minutes = halfSeconds / 120 - hours * 60;
+  const std::int32_t seconds = halfSeconds / 2 - (halfSeconds / 120) * 60;
+  const std::int32_t tenths = (halfSeconds % 2) * 5;
+  return std::to_string(hours) + ":" + TwoDigits(minutes) + ":" + TwoDigits(seconds) + "." +
+         std::to_string(tenths);
+}
+
+void Game::tmrTime_Timer() {
+  if (state_.ElapsedHalfSeconds < std::numeric_limits<std::int32_t>::max()) {
+    ++state_.ElapsedHalfSeconds;
+  }
+  if (options_.ShowTime) DoCaption();
+}
+
+void Game::DoCaption() {
+  if (state_.SolverRunning) return;
+  std::string caption = "Gallopade Nova";
+  if (options_.ShowScore) caption += ":" + NumberText(state_.MoveCount);
+  if (options_.ShowTime) caption += " - " + TimeString(state_.ElapsedHalfSeconds);
+  if (caption != window_.Caption()) window_.SetCaption(caption);
+}
+
+bool Game::DoTiming() {
+  const bool wasRunning = window_.IsClockEnabled();
+  window_.EnableClock(false);
+  return wasRunning;
+}
+
+// The tick brings the count to 0 and the caption with it.
+void Game::ResetClock() {
+  state_.ElapsedHalfSeconds = -1;
+  tmrTime_Timer();
+  window_.EnableClock(false);
+}
+
+void Game::ClockOnResize(bool minimised, bool resting) {
+  if (minimised || state_.ApplyingMoves) {
+    window_.EnableClock(false);
+    return;
+  }
+  const int movesBeforePlay = state_.GameStartingPosition == 1 ? 0 : 1;
+  const bool playing = state_.MoveCount != movesBeforePlay &&
+                       !CheckIfGameOver(state_.KnightX, state_.KnightY);
+  if (playing && !resting) window_.EnableClock(true);
+}
+
+void Game::mnuViewScore_Click() {
+  options_.ShowScore = !options_.ShowScore;
+  window_.SetMenuChecked(MenuEntry::mnuViewScore, options_.ShowScore);
+  DoCaption();
+}
+
+void Game::mnuViewTime_Click() {
+  options_.ShowTime = !options_.ShowTime;
+  window_.SetMenuChecked(MenuEntry::mnuViewTime, options_.ShowTime);
+  DoCaption();
+}

@@ -1,0 +1,115 @@
+#include <algorithm>
+
+#include "core/Game.h"
+
+namespace {
+
+// Half of the board: a game that got further is a good one.
+constexpr int GoodGame = 33;
+
+std::string EndMessage(int moveCount) {
+  if (moveCount == SquareCount) return "Congratulations, you have mastered Gallopade Nova.";
+  if (moveCount >= GoodGame) return "Sorry, there are no more valid moves.";
+  return "There are no more valid moves.";
+}
+
+std::int16_t StartingCoordinate(std::int16_t stored) {
+  return IsSquare(stored, 0) ? stored : std::int16_t{0};
+}
+
+}  // namespace
+
+bool Game::CheckIfGameOver(int x, int y) const {
+  return std::none_of(KnightMoveOffsets.begin(), KnightMoveOffsets.end(), [&](Offset offset) {
+    const int targetX = x + offset.dx;
+    const int targetY = y + offset.dy;
+    return IsSquare(targetX, targetY) && state_.Cell(targetX, targetY) == GameState::Unvisited;
+  });
+}
+
+void Game::ValidMove(int x, int y) {
+  window_.SetMenuEnabled(MenuEntry::mnuEditUndo, true);
+  window_.SetMenuEnabled(MenuEntry::mnuViewHistory, true);
+  window_.SetMenuEnabled(MenuEntry::mnuEditHistory, true);
+  if (state_.MoveCount >= 1) {
+    window_.SetMenuEnabled(MenuEntry::mnuFileRestart, true);
+    window_.SetMenuEnabled(MenuEntry::mnuViewReplay, true);
+  }
+  window_.SetMenuEnabled(MenuEntry::mnuFileSave, true);
+  window_.SetMenuEnabled(MenuEntry::mnuFileAutoplay, true);
+  window_.SetMenuEnabled(MenuEntry::mnuFileSolve, true);
+
+  const MoveRow move{static_cast<std::int16_t>(x), static_cast<std::int16_t>(y)};
+  state_.Cell(x, y) = GameState::Visited;
+  state_.KnightX = state_.CursorX = move.x;
+  state_.KnightY = state_.CursorY = move.y;
+  window_.RestoreColors(-1, -1);
+  state_.MoveList[static_cast<std::size_t>(state_.MoveCount)] = move;
+  ++state_.MoveCount;
+  DoCaption();
+
+  if (state_.ApplyingMoves) return;
+  window_.EnableClock(true);
+  if (CheckIfGameOver(x, y)) AnnounceEnd();
+}
+
+void Game::AnnounceEnd() {
+  DisablePlayOn();
+  window_.EnableClock(false);
+  window_.EndGame({state_.NoScoreGame ? "View &Replay" : "&Submit to Scores",
+                   EndMessage(state_.MoveCount), state_.MoveCount, state_.ElapsedHalfSeconds});
+}
+
+void Game::SetupFirstMove() {
+  if (options_.StartingPosition == 1) {
+    state_.FirstMoveMade = false;
+    state_.KnightX = state_.KnightY = 0;
+  } else if (options_.StartingPosition == 0) {
+    state_.KnightX = StartingCoordinate(options_.StartingX);
+    state_.KnightY = StartingCoordinate(options_.StartingY);
+    state_.Cell(state_.KnightX, state_.KnightY) = GameState::Visited;
+    ValidMove(state_.KnightX, state_.KnightY);
+    state_.FirstMoveMade = true;
+  } else {
+    MakeRandomStartingMove();
+  }
+  pctGrid_MouseMove(SquareIndex(state_.CursorX, state_.CursorY), 0);
+}
+
+void Game::MakeRandomStartingMove() {
+  random_.Reseed();
+  state_.KnightX = static_cast<std::int16_t>(random_.Below(BoardSide));
+  state_.KnightY = static_cast<std::int16_t>(random_.Below(BoardSide));
+  state_.Cell(state_.KnightX, state_.KnightY) = GameState::Visited;
+  ValidMove(state_.KnightX, state_.KnightY);
+  state_.FirstMoveMade = true;
+}
+
+void Game::pctGrid_Click(int index) {
+  if (state_.ApplyingMoves || !IsSquareIndex(index)) return;
+  const int x = ColumnOf(index);
+  const int y = RowOf(index);
+
+  if (!state_.FirstMoveMade) {
+    state_.KnightX = static_cast<std::int16_t>(x);
+    state_.KnightY = static_cast<std::int16_t>(y);
+    ClearRedo();
+    ValidMove(x, y);
+    state_.FirstMoveMade = true;
+    window_.RestoreColors(-1, -1);
+    return;
+  }
+  const bool free = state_.Cell(x, y) == GameState::Unvisited;
+  if (!free || !IsKnightsMove(state_.KnightX, state_.KnightY, x, y)) return;
+  ClearRedo();
+  ValidMove(x, y);
+}
+
+void Game::pctGrid_MouseMove(int index, int button) {
+  if (!IsSquareIndex(index)) return;
+  const bool forced = button == -1;
+  if (!forced && (state_.ApplyingMoves || CheckIfGameOver(state_.KnightX, state_.KnightY))) return;
+  state_.CursorX = static_cast<std::int16_t>(ColumnOf(index));
+  state_.CursorY = static_cast<std::int16_t>(RowOf(index));
+  window_.HighlightSquare(index, forced);
+}

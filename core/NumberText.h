@@ -1,0 +1,9 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+// A number as the program shows it where a blank takes the place of a missing sign: " 12", "-3".
+inline std::string NumberText(std::int64_t number) {
+  return (number < 0 ? "" : " ") + std::to_string(number);
+}
