@@ -60,12 +60,13 @@ def background(look, size=512):
 
 def plain_squares(look, size=256):
     """The five squares of the tournament and night looks, by name."""
-    frame = lay_frame(ground(look.highlight, size), 0.0, 0.105, look.highlight_edge)
-    frame = lay_frame(frame, 0.0, 0.080, look.highlight_frame)
+    frame = lay_frame(ground(look.highlight, size), 0.0, 0.125, look.highlight_edge)
+    frame = lay_frame(frame, 0.025, 0.095, look.highlight_frame)
+    visited = lay_frame(ground(look.visited, size), 0.0, 0.012, look.visited_edge)
     return {
         "Light": ground(look.light, size),
         "Dark": ground(look.dark, size),
-        "Visited": lay_horseshoe(ground(look.visited, size), look.visited_mark, 0.10),
+        "Visited": lay_horseshoe(visited, look.visited_mark, 0.10),
         "Knight": lay_knight(ground(look.knight, size), look.piece, look.piece_edge,
                              look.piece_edge),
         "Highlight": frame,
@@ -74,12 +75,13 @@ def plain_squares(look, size=256):
 
 def contrast_squares(look, size=256):
     """The five squares of the high-contrast look: three tones, told apart by large shapes."""
-    highlight = lay_frame(ground(look.visited, size), 0.0, 0.17, look.highlight_frame)
     squares = plain_squares(look, size)
-    squares["Visited"] = lay_horseshoe(ground(look.visited, size), look.visited_mark, 0.06)
-    squares["Knight"] = lay_knight(ground(look.knight, size), look.piece, look.piece_edge,
-                                   look.knight, 0.05)
-    squares["Highlight"] = lay_lozenge(highlight, 0.23, look.highlight_frame)
+    visited = lay_frame(ground(look.visited, size), 0.0, 0.012, look.visited_edge)
+    squares["Visited"] = lay_horseshoe(visited, look.visited_mark, 0.05)
+    knight = lay_frame(ground(look.knight, size), 0.0, 0.055, look.piece_edge)
+    squares["Knight"] = lay_knight(knight, look.piece, look.piece_edge, look.knight, 0.09)
+    highlight = lay_frame(ground(look.visited, size), 0.055, 0.20, look.highlight_frame)
+    squares["Highlight"] = lay_lozenge(highlight, 0.26, look.highlight_frame)
     return squares
 
 

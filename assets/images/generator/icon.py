@@ -59,18 +59,17 @@ def png(size):
     full = Stage(shape)
     cover = full.fill(_rounded_square(0, CORNER))
     picture = np.zeros(shape + (3,)) + rgb(RIM_EDGE)
-    start, rim_end = (0, 48) if small else (14, 54)
+    start, rim_end = (0, 1000 / size if size > 16 else 0) if small else (14, 54)
     picture = blend(picture, rgb(RIM), full.fill(_rounded_square(start, CORNER - start)))
     rows = np.linspace(0, 1, shape[0])[:, None] + np.zeros(shape)
     inside = full.fill(_rounded_square(rim_end, CORNER - rim_end))
     picture = blend(picture, ramp(GROUND, rows), inside)
-    reach = 0.88 if small else 0.78
-    side = shape[0]
-    stage = Stage(shape, (0.5 - 0.5 * reach) * side, (0.5 - 0.52 * reach) * side, reach * side)
+    stage = _piece_stage(size, n)
     outlines = knight_outlines()
     body = stage.fill(*outlines)
-    rim = stage.stroke(56 if small else 40, *[closed(corners) for corners in outlines])
-    picture = blend(picture, rgb(INK), np.maximum(rim, body))
+    if size > 16:
+        rim = stage.stroke(50 if small else 40, *[closed(corners) for corners in outlines])
+        picture = blend(picture, rgb(INK), rim)
     picture = blend(picture, rgb(IVORY), body)
     if not small:
         picture = blend(picture, rgb(INK), stage.stroke(15, *[points(p) for p in KNIGHT_LINES]))
@@ -78,6 +77,17 @@ def png(size):
         details = stage.fill(points(KNIGHT_EYE), points(KNIGHT_NOSTRIL))
         picture = blend(picture, rgb(INK), details)
     return _with_cover(picture, cover, size, n)
+
+
+def _piece_stage(size, n):
+    """Where the knight stands; in small icons its foot ends on a whole pixel."""
+    side = size * n
+    if size > 32:
+        return Stage((side, side), 0.11 * side, 0.095 * side, 0.78 * side)
+    reach = 0.98 if size == 16 else 0.90
+    foot = (size - 1 if size == 16 else size - 2) * n
+    return Stage((side, side), (0.5 - 0.5 * reach) * side, foot - 0.964 * reach * side,
+                 reach * side)
 
 
 def _with_cover(picture, cover, size, n):

@@ -16,6 +16,7 @@ class Look:
     highlight: str
     background: str
     visited_mark: str = ""
+    visited_edge: str = ""
     piece: str = ""
     piece_edge: str = ""
     highlight_frame: str = ""
@@ -31,15 +32,17 @@ WOOD = Look("Wood", "Wood", light="#e2bd84", dark="#7c4b27", visited="#2b1c13", 
             highlight="#ffc94d", background="#2e150d")
 TOURNAMENT = Look("Tournament", "Tournament", light="#f0e4c3", dark="#4c7f5c", visited="#1f3529",
                   knight="#8f2f24", highlight="#ffd75e", background="#2a3b31",
-                  visited_mark="#e3cf97", piece="#fbf5e4", piece_edge="#24100c",
+                  visited_mark="#e3cf97", visited_edge="#37533f", piece="#fbf5e4",
+                  piece_edge="#24100c",
                   highlight_frame="#fff7d6", highlight_edge="#5d3a00", frame_line="#e3cf97")
 CONTRAST = Look("High Contrast", "Contrast", light="#ffffff", dark="#2e6fb0", visited="#000000",
                 knight="#ffe600", highlight="#ff8a00", background="#000000",
-                visited_mark="#ffffff", piece="#000000", piece_edge="#000000",
+                visited_mark="#ffffff", visited_edge="#8c8c8c", piece="#000000",
+                piece_edge="#000000",
                 highlight_frame="#ffe600", highlight_edge="#000000", frame_line="#ffffff")
-NIGHT = Look("Night", "Night", light="#566684", dark="#2b3448", visited="#0f131c",
-             knight="#3f2f6b", highlight="#7a5316", background="#0b0e15",
-             visited_mark="#6fc3b6", piece="#e9e6f5", piece_edge="#120d22",
+NIGHT = Look("Night", "Night", light="#5f7093", dark="#2b3448", visited="#0f131c",
+             knight="#3f2f6b", highlight="#94661c", background="#0b0e15",
+             visited_mark="#6fc3b6", visited_edge="#242c3d", piece="#e9e6f5", piece_edge="#120d22",
              highlight_frame="#ffcf6b", highlight_edge="#1c1204", frame_line="#3d4a66")
 INLAY = Look("Inlay", "Inlay", light="#e6cb99", dark="#8a5630", visited="#2e1e15",
              knight="#7a2b1c", highlight="#f5bb3d", background="#2e150d",

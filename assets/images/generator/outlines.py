@@ -83,16 +83,15 @@ class Stage:
 
     SUPERSAMPLING = 4
 
-    def __init__(self, shape, left=0.0, top=0.0, size=None, mirrored=False):
+    def __init__(self, shape, left=0.0, top=0.0, size=None):
         self.shape = shape
         self.left, self.top = left, top
         self.scale = (size if size is not None else min(shape)) / 1000.0
-        self.mirrored = mirrored
 
     def _place(self, corners):
         n = self.SUPERSAMPLING
-        return [((self.left + (1000 - x if self.mirrored else x) * self.scale) * n - 0.5,
-                 (self.top + y * self.scale) * n - 0.5) for x, y in corners]
+        return [((self.left + x * self.scale) * n - 0.5, (self.top + y * self.scale) * n - 0.5)
+                for x, y in corners]
 
     def _canvas(self):
         height, width = self.shape

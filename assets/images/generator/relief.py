@@ -18,7 +18,7 @@ def shade(height):
 
 def rounded(cover, size, depth=1.0):
     """A height map of a cushion-like body where `cover` is 1, for a body `size` pixels big."""
-    layers = ((0.012, 0.30), (0.03, 0.40), (0.075, 0.55))
+    layers = ((0.010, 0.30), (0.028, 0.42), (0.065, 0.60), (0.13, 0.75))
     return depth * sum(weight * part * size * soft_blur(cover, part * size)
                        for part, weight in layers)
 
@@ -36,8 +36,8 @@ def bevel(picture, width, strength):
     height, across = picture.shape[:2]
     y = np.arange(height)[:, None] + 0.5
     x = np.arange(across)[None, :] + 0.5
-    sides = [np.clip(1 - d / width, 0, 1) ** 1.5 + 0 * (x + y)
-             for d in (x, y, across - x, height - y)]
+    sides = [np.broadcast_to(np.clip(1 - distance / width, 0, 1) ** 1.5, (height, across))
+             for distance in (x, y, across - x, height - y)]
     lit = np.maximum(sides[0], sides[1])
     dim = np.maximum(sides[2], sides[3])
     picture = blend(picture, rgb("#fff0cf"), 0.45 * strength * lit * (dim < lit))

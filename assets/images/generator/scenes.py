@@ -108,7 +108,7 @@ def _homography(quad):
 
 
 def _lay_flat(picture, board, quad):
-    """Draws `board` in perspective into the four corners `quad` of the picture."""
+    """The picture with `board` drawn in perspective between the four corners `quad`, and where."""
     matrix = _homography(quad).reshape(3, 3)
     height, width = picture.shape[:2]
     y, x = np.mgrid[0:height, 0:width] + 0.5
@@ -119,21 +119,25 @@ def _lay_flat(picture, board, quad):
     inside = (u >= 0) & (u < 1) & (v >= 0) & (v < 1) & (depth > 0)
     column = np.clip((u * side).astype(int), 0, side - 1)
     row = np.clip((v * side).astype(int), 0, side - 1)
-    return np.where(inside[..., None], board[row, column], picture), u, v, inside
+    return np.where(inside[..., None], board[row, column], picture), inside
 
 
 TOUR = ((0, 1), (2, 0), (4, 1), (6, 0), (7, 2), (5, 3), (3, 2), (1, 3), (0, 5), (2, 4), (4, 5))
 
 
 def _tour_board(square):
-    """The board that the knight of the About picture has crossed."""
+    """The framed board that the knight of the About picture has crossed."""
     board = _chequers(square, 8, 8)
     for column, row in TOUR[:-1]:
         _place(board, tiles.visited(square), column, row)
     stage = Stage(board.shape[:2])
     line = [(125 * column + 62.5, 125 * row + 62.5) for column, row in TOUR]
     board = blend(board, rgb("#160a04"), 0.75 * stage.stroke(17, line))
-    return blend(board, rgb("#ffdf92"), stage.stroke(9, line))
+    board = blend(board, rgb("#ffdf92"), stage.stroke(9, line))
+    margin = square // 2
+    framed = chessboard_frame(board.shape[0] + 2 * margin)
+    framed[margin:-margin, margin:-margin] = board
+    return framed
 
 
 def about(width=600, height=450, factor=2):
@@ -145,7 +149,7 @@ def about(width=600, height=450, factor=2):
     picture = blend(np.zeros(shape + (3,)) + rgb("#120a07"), rgb("#6d3a1c"), 0.85 * glow)
     quad = [(w * shape[1], h * shape[0])
             for w, h in ((0.17, 0.50), (0.93, 0.50), (1.32, 1.16), (-0.36, 1.16))]
-    picture, _, _, on_board = _lay_flat(picture, _tour_board(192), quad)
+    picture, on_board = _lay_flat(picture, _tour_board(192), quad)
     haze = np.clip((y - 0.50) / 0.16, 0, 1)
     picture = blend(picture, rgb("#1d0f08"), on_board * (0.55 * (1 - haze) ** 1.5))
     stage = Stage(shape, 0.44 * shape[1], 0.05 * shape[0], 0.83 * shape[0])

@@ -36,7 +36,7 @@ def lay_horseshoe(picture, stage, tones=("#8f6420", "#d8a94b", "#ffe9ae")):
     size = stage.scale * 1000
     cover = stage.fill(horseshoe())
     picture = blend(picture, rgb("#000000"), 0.55 * soft_blur(cover, 0.012 * size))
-    light_on = shade(rounded(cover, size, 0.9))
+    light_on = shade(rounded(cover, size, 1.1))
     rows = np.linspace(1, 0, picture.shape[0])[:, None] + np.zeros_like(cover)
     tone = np.clip(light_on - 0.5 + 0.12 * rows, 0, 1)[..., None]
     low, middle, high = (rgb(text) for text in tones)
@@ -55,7 +55,7 @@ def visited(size):
     return _finish(lay_horseshoe(picture, stage))
 
 
-def lay_knight(picture, stage, ivory="#f4e6c6", outline="#24120a", light_edge=None):
+def lay_knight(picture, stage, ivory="#f4e6c6", outline="#24120a"):
     """Stands the carved knight on a picture."""
     size = stage.scale * 1000
     outlines = knight_outlines()
@@ -65,14 +65,11 @@ def lay_knight(picture, stage, ivory="#f4e6c6", outline="#24120a", light_edge=No
     details = stage.fill(points(KNIGHT_EYE), points(KNIGHT_NOSTRIL))
     whole = np.maximum(body, edge)
     picture = blend(picture, rgb("#000000"), 0.62 * shadow(whole, size, 0.028))
-    if light_edge:
-        halo = stage.stroke(46, *[closed(corners) for corners in outlines])
-        picture = blend(picture, rgb(light_edge), np.maximum(whole, halo))
     picture = blend(picture, rgb(outline), whole)
     carved = rounded(np.clip(body - edge, 0, 1) - 0.35 * lines, size, 0.55)
-    light_on = np.clip(shade(carved), 0.30, 1.22)[..., None]
+    light_on = np.clip(shade(carved), 0.30, 1.20)[..., None]
     warm = np.power(rgb(ivory), 1 + 0.55 * np.clip(1 - light_on, 0, 1))
-    surface = np.clip(warm * (0.30 + 0.70 * light_on), 0, 1)
+    surface = np.clip(warm * (0.24 + 0.73 * light_on), 0, 1)
     picture = blend(picture, surface, np.clip(body - edge, 0, 1))
     return blend(picture, rgb("#3a2114"), np.maximum(0.80 * lines * body, details))
 
@@ -94,7 +91,7 @@ def highlight(size):
     picture = blend(picture, rgb("#b85c00"), 0.75 * np.clip((distance - 0.22) / 0.40, 0, 1))
     picture = blend(picture, rgb("#fff3b8"), 0.90 * np.exp(-((distance / 0.26) ** 2)))
     edge = 0.5 - np.maximum(np.abs(x), np.abs(y))
-    for start, end, colour in ((0.0, 0.092, "#3b1a02"), (0.016, 0.076, "#fff2b0")):
+    for start, end, colour in ((0.0, 0.106, "#3b1a02"), (0.024, 0.080, "#fff2b0")):
         softness = 1.5 / size
         band = np.clip((edge - start) / softness + 0.5, 0, 1)
         band = band * np.clip((end - edge) / softness + 0.5, 0, 1)

@@ -23,8 +23,8 @@ class Timber:
 
 MAPLE = Timber(("#b98548", "#d3a566", "#e2bd84", "#efd3a2"), rings=7, ring_depth=0.20, wander=1.0,
                fibre=0.075, pores=0.05, shimmer=0.05)
-WALNUT = Timber(("#40220f", "#653a1d", "#85522b", "#a06a3c"), rings=8, ring_depth=0.24, wander=1.2,
-                fibre=0.085, pores=0.16, shimmer=0.05)
+WALNUT = Timber(("#40220f", "#653a1d", "#85522b", "#a06a3c"), rings=9, ring_depth=0.20, wander=0.9,
+                fibre=0.09, pores=0.16, shimmer=0.045)
 EBONY = Timber(("#150d08", "#23160e", "#322117", "#432e20"), rings=9, ring_depth=0.20, wander=0.8,
                fibre=0.10, pores=0.12, shimmer=0.06)
 MAHOGANY = Timber(("#3f0f08", "#641d10", "#82301c", "#9c442a"), rings=7, ring_depth=0.20,
@@ -50,7 +50,7 @@ def plank(timber, seed, shape, scale=1.0):
 
     across = np.arange(shape[1])[None, :] / shape[1]
     rings = max(1, round(timber.rings * scale * shape[1] / short))
-    drift = 0.30 * noise(1, 6) + timber.wander * 0.16 * noise(2, 2) + 0.03 * noise(7, 9)
+    drift = 0.28 * noise(1, 6) + timber.wander * (0.10 * noise(2, 2) + 0.015 * noise(6, 9))
     year = (rings * across + drift) % 1.0
     late_wood = np.where(year < 0.86, (year / 0.86) ** 2.2, (1 - year) / 0.14)
     value = 0.62 + timber.ring_depth * (0.33 - late_wood)
