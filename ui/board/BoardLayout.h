@@ -1,0 +1,39 @@
+#pragma once
+
+#include <array>
+
+#include "core/Square.h"
+
+// The arithmetic of the board's sizes. A twip is 1/1440 inch; 15 twips are one logical pixel.
+
+inline constexpr double TwipsPerPixel = 15.0;
+inline constexpr double MinimumInnerHeightTwips = 2800.0;
+inline constexpr double DesignedInnerSideTwips = 9600.0;
+inline constexpr int MaximumCornerDistanceTwips = 1500;
+inline constexpr double BorderTwips = TwipsPerPixel;  // a single-line border, on each side
+
+constexpr double PixelsFromTwips(double twips) {
+  return twips / TwipsPerPixel;
+}
+
+constexpr double TwipsFromPixels(double pixels) {
+  return pixels * TwipsPerPixel;
+}
+
+struct BoardLayout {
+  double cornerDistance = 0;  // twips: the frame around the board
+  double squareSide = 0;      // twips: the outside of a cell, at least one pixel
+};
+
+// innerHeight and cornerDistance in twips. A frame that leaves no room gives squares of one pixel.
+BoardLayout LayOutBoard(double innerHeight, double cornerDistance);
+
+// The inside of a cell in twips: less its border where it has one.
+double InnerCellSide(const BoardLayout& layout, bool useBorders);
+
+// The nine edges of the columns (and of the rows) in device pixels, each rounded on its own, so that
+// no seam is blended and the board fills its area exactly.
+std::array<int, BoardSide + 1> CellEdges(const BoardLayout& layout, double devicePixelRatio);
+
+// Which column (or row) holds a position in logical pixels; -1 outside the board.
+int SquareAt(const BoardLayout& layout, double devicePixelRatio, double position);

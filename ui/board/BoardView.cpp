@@ -1,0 +1,174 @@
+#include "ui/board/BoardView.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <bit>
+#include <cmath>
+
+#include "ui/board/BoardKeys.h"
+#include "ui/support/SystemColors.h"
+
+BoardView::BoardView(const GameState& state, QWidget* parent) : QWidget(parent), state_(state) {
+  setObjectName("pctGrid");
+  setAccessibleName("Chessboard");
+  setFocusPolicy(Qt::StrongFocus);
+  setMouseTracking(true);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void BoardView::SetPictures(BoardPictures pictures) {
+  pictures_ = std::move(pictures);
+  cellPainter_.SetPictures(pictures_);
+  background_ = QPixmap();
+  for (int i = 0; i < SquarePictureCount; ++i) {
+    const QSize size = pictures_.squares[static_cast<std::size_t>(i)].size();
+    model_.SetPictureSize(static_cast<SquarePicture>(i), {TwipsFromPixels(size.width()),
+                                                          TwipsFromPixels(size.height())});
+  }
+  update();
+}
+
+void BoardView::SetBackground(Color color, bool showImage) {
+  backgroundColor_ = color;
+  showBackgroundImage_ = showImage;
+  update();
+}
+
+void BoardView::LayOut(const BoardLook& look) {
+  layout_ = LayOutBoard(TwipsFromPixels(height()), cornerDistance_);
+  model_.SetCellSide(InnerCellSide(layout_, look.UseBorders));
+  model_.ReCenterImages(look);
+  cellPainter_.Clear();
+  background_ = QPixmap();
+  update();
+}
+
+QRegion BoardView::ChangedRegion() {
+  QRegion region;
+  for (BoardModel::CellSet changes = model_.TakeChanges(); changes != 0; changes &= changes - 1) {
+    region += SquareRectangle(std::countr_zero(changes));
+  }
+  return region;
+}
+
+void BoardView::ShowChanges() {
+  const QRegion region = ChangedRegion();
+  if (!region.isEmpty()) update(region);
+}
+
+void BoardView::ShowChangesNow() {
+  const QRegion region = ChangedRegion();
+  if (!region.isEmpty()) repaint(region);
+}
+
+QRect BoardView::SquareRectangle(int index) const {
+  const double ratio = devicePixelRatioF();
+  const auto edges = CellEdges(layout_, ratio);
+  const auto logical = [&](int edge) { return edges[static_cast<std::size_t>(edge)] / ratio; };
+  const int x = ColumnOf(index);
+  const int y = RowOf(index);
+  return QRectF(QPointF(logical(x), logical(y)), QPointF(logical(x + 1), logical(y + 1)))
+      .toAlignedRect();
+}
+
+int BoardView::SquareAtPosition(QPointF position) const {
+  const double ratio = devicePixelRatioF();
+  const int x = SquareAt(layout_, ratio, position.x());
+  const int y = SquareAt(layout_, ratio, position.y());
+  return IsSquare(x, y) ? SquareIndex(x, y) : -1;
+}
+
+QSize BoardView::sizeHint() const {
+  const int side = static_cast<int>(PixelsFromTwips(DesignedInnerSideTwips));
+  return {side, side};
+}
+
+// Small enough for the window to snap back from any size by its own rule.
+QSize BoardView::minimumSizeHint() const {
+  return {1, 1};
+}
+
+// Painted in device pixels, with the view's corner on one of them: whole-pixel edges at every scale
+// factor.
+void BoardView::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  const double ratio = devicePixelRatioF();
+  const QPointF corner = QPointF(mapTo(window(), QPoint(0, 0))) * ratio;
+  painter.scale(1 / ratio, 1 / ratio);
+  painter.translate(std::round(corner.x()) - corner.x(), std::round(corner.y()) - corner.y());
+  PaintBackground(painter, event->region());
+  PaintCells(painter, event->region());
+}
+
+void BoardView::PaintCells(QPainter& painter, const QRegion& region) {
+  const double ratio = devicePixelRatioF();
+  const auto edges = CellEdges(layout_, ratio);
+  for (int index = 0; index < SquareCount; ++index) {
+    if (!region.intersects(SquareRectangle(index))) continue;
+    const BoardCell& cell = model_.Cell(index);
+    const auto x = static_cast<std::size_t>(ColumnOf(index));
+    const auto y = static_cast<std::size_t>(RowOf(index));
+    const QColor color = ResolveColor(cell.backColor.value_or(backgroundColor_), palette());
+    painter.drawPixmap(edges[x], edges[y],
+                       cellPainter_.PixmapFor(cell, color, edges[x + 1] - edges[x],
+                                              edges[y + 1] - edges[y], ratio));
+    ++paintedCells_;
+  }
+}
+
+void BoardView::PaintBackground(QPainter& painter, const QRegion& region) {
+  const double ratio = devicePixelRatioF();
+  const auto edges = CellEdges(layout_, ratio);
+  const int boardSide = static_cast<int>(std::floor((edges.back() - edges.front()) / ratio));
+  const int boardCorner = static_cast<int>(std::ceil(edges.front() / ratio));
+  if ((region - QRect(boardCorner, boardCorner, boardSide, boardSide)).isEmpty()) return;
+
+  const int side = static_cast<int>(std::lround(height() * ratio));
+  const QRect everything(0, 0, static_cast<int>(std::ceil(width() * ratio)) + 1, side + 1);
+  painter.fillRect(everything, ResolveColor(backgroundColor_, palette()));
+  if (!showBackgroundImage_ || pictures_.background.isNull()) return;
+  if (background_.isNull()) {
+    background_ = QPixmap::fromImage(pictures_.background.scaled(
+        side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  }
+  painter.drawPixmap(0, 0, background_);
+}
+
+void BoardView::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  emit Resized();
+}
+
+void BoardView::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange) {
+    cellPainter_.Clear();
+    update();
+  }
+  QWidget::changeEvent(event);
+}
+
+void BoardView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) pressedSquare_ = SquareAtPosition(event->position());
+}
+
+void BoardView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const int pressed = std::exchange(pressedSquare_, -1);
+  const int released = SquareAtPosition(event->position());
+  if (released != -1 && released == pressed) emit SquareClicked(released);
+}
+
+void BoardView::mouseMoveEvent(QMouseEvent* event) {
+  const int index = SquareAtPosition(event->position());
+  if (index != -1) emit SquareEntered(index);
+}
+
+void BoardView::keyPressEvent(QKeyEvent* event) {
+  const int keyCode = VirtualKeyCode(*event);
+  if (keyCode == 0) {
+    QWidget::keyPressEvent(event);
+  } else if (!event->isAutoRepeat() || !IsClickKey(keyCode)) {
+    emit KeyPressed(keyCode);
+  }
+}

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QWidget>
+
+#include "core/GameState.h"
+#include "ui/board/BoardLayout.h"
+#include "ui/board/BoardModel.h"
+#include "ui/board/BoardPictures.h"
+#include "ui/board/CellPainter.h"
+
+// The inside of the main window: the board of 64 cells in its frame. It paints what the model holds
+// and turns pointer and keys into squares and key codes; it knows no rule. To a screen reader it is
+// the table "Chessboard" of 8 by 8 cells.
+class BoardView : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit BoardView(const GameState& state, QWidget* parent = nullptr);
+
+  const GameState& State() const { return state_; }
+  BoardModel& Model() { return model_; }
+  const BoardModel& Model() const { return model_; }
+
+  // Makes the whole board be painted again.
+  void SetPictures(BoardPictures pictures);
+  void SetBackground(Color color, bool showImage);
+  // cornerDistance: twips. Takes effect with the next LayOut.
+  void SetCornerDistance(int cornerDistance) { cornerDistance_ = cornerDistance; }
+  // Fits the squares to the height of the view.
+  void LayOut(const BoardLook& look);
+  // Has the cells painted that changed since the last call: with the next events, or at once.
+  void ShowChanges();
+  void ShowChangesNow();
+
+  // Logical pixels, relative to the view.
+  QRect SquareRectangle(int index) const;
+  // -1 outside the board.
+  int SquareAtPosition(QPointF position) const;
+
+  // How many cells were painted since the program began.
+  std::uint64_t PaintedCells() const { return paintedCells_; }
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ signals:
+  // A press and release of the left button on one square.
+  void SquareClicked(int index);
+  void SquareEntered(int index);
+  // keyCode: a Windows virtual-key code.
+  void KeyPressed(int keyCode);
+  void Resized();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QRegion ChangedRegion();
+  void PaintCells(QPainter& painter, const QRegion& region);
+  void PaintBackground(QPainter& painter, const QRegion& region);
+
+  const GameState& state_;
+  BoardModel model_;
+  BoardLayout layout_;
+  int cornerDistance_ = 0;
+  Color backgroundColor_ = 0;
+  bool showBackgroundImage_ = false;
+  BoardPictures pictures_;
+  CellPainter cellPainter_;
+  QPixmap background_;  // the background image in its present size, made when first needed
+  int pressedSquare_ = -1;
+  std::uint64_t paintedCells_ = 0;
+};

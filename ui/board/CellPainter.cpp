@@ -1,0 +1,65 @@
+#include "ui/board/CellPainter.h"
+
+#include <QPainter>
+#include <cmath>
+
+#include "ui/board/BoardLayout.h"
+
+namespace {
+
+// Looks come and go with the highlight; so many are enough for every size and state at once.
+constexpr std::size_t MaximumLooks = 64;
+
+int DevicePixels(double twips, double devicePixelRatio) {
+  return static_cast<int>(std::lround(PixelsFromTwips(twips) * devicePixelRatio));
+}
+
+}  // namespace
+
+void CellPainter::SetPictures(const BoardPictures& pictures) {
+  pictures_ = pictures.squares;
+  Clear();
+}
+
+const QPixmap& CellPainter::PixmapFor(const BoardCell& cell, const QColor& color, int width,
+                                      int height, double devicePixelRatio) {
+  const bool hasPicture = cell.imageVisible && cell.picture.has_value();
+  const int picture = hasPicture ? static_cast<int>(*cell.picture) : -1;
+  const Look look{width,        height,         color.rgb(),   cell.border, picture,
+                  cell.stretch, cell.imageLeft, cell.imageTop};
+  if (const auto made = pixmaps_.find(look); made != pixmaps_.end()) return made->second;
+  if (pixmaps_.size() >= MaximumLooks) Clear();
+
+  QImage image(width, height, QImage::Format_RGB32);
+  image.fill(color);
+  QPainter painter(&image);
+  const int border = cell.border ? DevicePixels(BorderTwips, devicePixelRatio) : 0;
+  const QRect inside(border, border, width - 2 * border, height - 2 * border);
+  if (hasPicture) DrawPicture(painter, cell, inside, devicePixelRatio);
+  if (border > 0) {
+    QRegion frame(0, 0, width, height);
+    frame -= inside;
+    for (const QRect& side : frame) painter.fillRect(side, Qt::black);
+  }
+  painter.end();
+  return pixmaps_.emplace(look, QPixmap::fromImage(std::move(image))).first->second;
+}
+
+void CellPainter::DrawPicture(QPainter& painter, const BoardCell& cell, const QRect& inside,
+                              double devicePixelRatio) const {
+  const QImage& picture = pictures_[static_cast<std::size_t>(*cell.picture)];
+  if (picture.isNull() || inside.isEmpty()) return;
+  painter.setClipRect(inside);
+  if (cell.stretch) {
+    painter.drawImage(inside.topLeft(),
+                      picture.scaled(inside.size(), Qt::IgnoreAspectRatio,
+                                     Qt::SmoothTransformation));
+  } else {
+    const QPoint at = inside.topLeft() + QPoint(DevicePixels(cell.imageLeft, devicePixelRatio),
+                                                DevicePixels(cell.imageTop, devicePixelRatio));
+    const QSize size(DevicePixels(cell.imageWidth, devicePixelRatio),
+                     DevicePixels(cell.imageHeight, devicePixelRatio));
+    painter.drawImage(at, picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  }
+  painter.setClipping(false);
+}

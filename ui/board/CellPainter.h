@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QColor>
+#include <QPixmap>
+#include <map>
+#include <tuple>
+
+#include "ui/board/BoardModel.h"
+#include "ui/board/BoardPictures.h"
+
+class QPainter;
+
+// Makes the opaque pixmap of a cell's look in device pixels, and keeps it for all cells that share
+// the look.
+class CellPainter {
+ public:
+  void SetPictures(const BoardPictures& pictures);
+  // Forgets what was made: for a new size, scale or palette.
+  void Clear() { pixmaps_.clear(); }
+
+  // width, height: device pixels.
+  const QPixmap& PixmapFor(const BoardCell& cell, const QColor& color, int width, int height,
+                           double devicePixelRatio);
+
+ private:
+  using Look = std::tuple<int, int, QRgb, bool, int, bool, double, double>;
+
+  void DrawPicture(QPainter& painter, const BoardCell& cell, const QRect& inside,
+                   double devicePixelRatio) const;
+
+  std::array<QImage, SquarePictureCount> pictures_;
+  std::map<Look, QPixmap> pixmaps_;
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+// What a file dialog is asked for. directory: where it starts; filter: pairs of visible text and
+// patterns, all separated by "|".
+struct FileQuestion {
+  QString directory;
+  QString filter;
+};
+
+// The toolkit's common dialogs behind a small interface, so that commands can be tested without them.
+class Dialogs {
+ public:
+  Dialogs() = default;
+  Dialogs(const Dialogs&) = delete;
+  Dialogs& operator=(const Dialogs&) = delete;
+  virtual ~Dialogs() = default;
+
+  // Each gives the chosen path, empty when cancelled. A file to open exists; a file to save may
+  // exist, and the player has then agreed to overwrite it.
+  virtual QString OpenFile(const FileQuestion& question) = 0;
+  virtual QString SaveFile(const FileQuestion& question) = 0;
+};

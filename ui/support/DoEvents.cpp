@@ -1,0 +1,7 @@
+#include "ui/support/DoEvents.h"
+
+#include <QCoreApplication>
+
+void DoEvents() {
+  QCoreApplication::processEvents();
+}

@@ -1,0 +1,59 @@
+#include "ui/support/QtDialogs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+QWidget* QtDialogs::Parent() const {
+  QWidget* dialog = QApplication::activeModalWidget();
+  return dialog != nullptr ? dialog : &mainWindow_;
+}
+
+QString QtDialogs::OpenFile(const FileQuestion& question) {
+  QFileDialog dialog(Parent(), QString(), question.directory, ToolkitNameFilters(question.filter));
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+QString QtDialogs::SaveFile(const FileQuestion& question) {
+  QFileDialog dialog(Parent(), QString(), question.directory, ToolkitNameFilters(question.filter));
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  while (dialog.exec() == QDialog::Accepted) {
+    const QString pathName = dialog.selectedFiles().value(0);
+    if (QFileInfo(pathName).absoluteDir().exists()) return pathName;
+    Tell(dialog.windowTitle(), pathName + "\nPath does not exist.\nVerify that it is the right one.",
+         MessageIcon::Exclamation);
+  }
+  return {};
+}
+
+bool QtDialogs::Ask(const QString& title, const QString& text, DefaultAnswer defaultAnswer) {
+  QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, Parent());
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(defaultAnswer == DefaultAnswer::Yes ? QMessageBox::Yes : QMessageBox::No);
+  return box.exec() == QMessageBox::Yes;
+}
+
+void QtDialogs::Tell(const QString& title, const QString& text, MessageIcon icon) {
+  const auto symbol =
+      icon == MessageIcon::Information ? QMessageBox::Information : QMessageBox::Warning;
+  QMessageBox box(symbol, title, text, QMessageBox::Ok, Parent());
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
+QString ToolkitNameFilters(const QString& filter) {
+  const QStringList parts = filter.split('|');
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    QString patterns = parts[i + 1];
+    patterns.replace(';', ' ').replace("*.*", "*");
+    filters << parts[i] + " (" + patterns.simplified() + ")";
+  }
+  return filters.join(";;");
+}

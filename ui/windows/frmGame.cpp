@@ -1,0 +1,159 @@
+#include "ui/windows/frmGame.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QTimer>
+
+#include "ui/board/BoardView.h"
+#include "ui/commands/EndOfGame.h"
+#include "ui/commands/GameFiles.h"
+#include "ui/support/DoEvents.h"
+#include "ui/support/Pictures.h"
+
+namespace {
+
+constexpr int CloseRetryMilliseconds = 100;
+
+}  // namespace
+
+frmGame::frmGame(Globals& globals)
+    : globals_(globals),
+      game_(state_, globals.settings, *this),
+      tmrTime_([this] { game_.tmrTime_Timer(); }),
+      menu_(*this),
+      dialogs_(*this),
+      windows_(*this),
+      context_{game_, state_, *this, dialogs_, windows_, globals} {
+  setObjectName("frmGame");
+}
+
+frmGame::~frmGame() = default;
+
+void frmGame::Form_Load(const QString& commandLine) {
+  game_.Form_Load(commandLine.toStdString());
+  ShowWindow();
+}
+
+void frmGame::SetMenuEnabled(MenuEntry entry, bool enabled) {
+  menu_.Entry(entry).setEnabled(enabled);
+}
+
+bool frmGame::IsMenuEnabled(MenuEntry entry) const {
+  return menu_.Entry(entry).isEnabled();
+}
+
+void frmGame::SetMenuChecked(MenuEntry entry, bool checked) {
+  menu_.Entry(entry).setChecked(checked);
+}
+
+void frmGame::RestoreColors(int x, int y) {
+  board_->Model().RestoreColors(state_, globals_.settings, x, y);
+  board_->ShowChanges();
+}
+
+void frmGame::HighlightSquare(int index, bool forced) {
+  board_->Model().HighlightSquare(state_, globals_.settings, index, forced);
+  board_->ShowChanges();
+}
+
+std::string frmGame::Caption() const {
+  return windowTitle().toStdString();
+}
+
+void frmGame::SetCaption(const std::string& caption) {
+  setWindowTitle(QString::fromStdString(caption));
+}
+
+void frmGame::EnableClock(bool enabled) {
+  tmrTime_.SetEnabled(enabled);
+}
+
+bool frmGame::IsClockEnabled() const {
+  return tmrTime_.IsEnabled();
+}
+
+bool frmGame::Ask(const std::string& title, const std::string& text,
+                  DefaultAnswer defaultAnswer) {
+  return dialogs_.Ask(QString::fromStdString(title), QString::fromStdString(text), defaultAnswer);
+}
+
+void frmGame::Tell(const std::string& title, const std::string& text, MessageIcon icon) {
+  dialogs_.Tell(QString::fromStdString(title), QString::fromStdString(text), icon);
+}
+
+void frmGame::EndGame(const GameOverReport& report) {
+  ::EndGame(context_, report);
+}
+
+void frmGame::DoEvents() {
+  ::DoEvents();
+}
+
+void frmGame::BeginWork() {
+  ++works_;
+}
+
+void frmGame::EndWork() {
+  --works_;
+  CatchUpOnResize();
+  if (works_ == 0 && closeRequested_) CloseAsRequested();
+}
+
+// In the normal way, but only when nothing else is going on above the event loop.
+void frmGame::CloseAsRequested() {
+  QTimer::singleShot(CloseRetryMilliseconds, this, [this] {
+    if (works_ > 0 || QApplication::activeModalWidget() != nullptr) {
+      CloseAsRequested();
+    } else {
+      close();
+    }
+  });
+}
+
+void frmGame::closeEvent(QCloseEvent* event) {
+  closeRequested_ = !PlayerMayAct();
+  event->setAccepted(PlayerMayAct() && game_.Form_Unload());
+}
+
+void frmGame::LoadGameSetup() {
+  Settings& settings = globals_.settings;
+  LoadSettings(globals_.IniFile, globals_.IniFilePathName, globals_.ProgramDirectory, settings);
+  SetMenuChecked(MenuEntry::mnuViewTime, settings.ShowTime);
+  SetMenuChecked(MenuEntry::mnuViewScore, settings.ShowScore);
+  board_->SetCornerDistance(settings.CornerDistance);
+  board_->SetBackground(settings.ChessboardBackgroundColor, settings.UseImages);
+  if (!settings.UseImages) return;
+  const auto load = [this](const QString& name) {
+    return LoadPicture(name, globals_.ProgramDirectory);
+  };
+  board_->SetPictures({{load(settings.LightImage), load(settings.DarkImage),
+                        load(settings.VisitedImage), load(settings.KnightImage),
+                        load(settings.HighlightImage)},
+                       load(settings.ChessboardBackgroundImage)});
+}
+
+void frmGame::OpenGameFile(const std::string& fileName) {
+  LoadGame(context_, {.Replaying = false, .NoCdlog = true,
+                      .NoCdlogFilename = QString::fromStdString(fileName)});
+}
+
+void frmGame::SaveSettings() {
+  QString ignoredError;
+  globals_.IniFile.WriteIniFileValues(
+      globals_.IniFilePathName, ExitEntries(globals_.settings, Placement(), IsMinimised()),
+      ignoredError);
+}
+
+void frmGame::RefreshHighlight() {
+  game_.pctGrid_MouseMove(SquareIndex(state_.CursorX, state_.CursorY), 0);
+}
+
+void frmGame::RepaintWholeBoard() {
+  const std::int16_t cursorX = state_.CursorX;
+  const std::int16_t cursorY = state_.CursorY;
+  for (int index = SquareCount - 1; index >= 0; --index) game_.pctGrid_MouseMove(index, -1);
+  state_.CursorX = cursorX;
+  state_.CursorY = cursorY;
+  RestoreColors(-1, -1);
+}

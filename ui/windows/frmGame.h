@@ -1,0 +1,120 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QSize>
+
+#include "core/Game.h"
+#include "ui/commands/CommandContext.h"
+#include "ui/commands/MainWindow.h"
+#include "ui/support/HalfSecondTimer.h"
+#include "ui/support/QtDialogs.h"
+#include "ui/windows/GameMenu.h"
+#include "ui/windows/ScreenWindows.h"
+
+class BoardView;
+
+// The main window: it owns the live game and is the only place where it changes. It forwards what
+// the player does to the game and to the commands, and shows what the game asks for.
+class frmGame : public QMainWindow, public MainWindow {
+  Q_OBJECT
+
+ public:
+  // globals outlives the window and holds the program directory.
+  explicit frmGame(Globals& globals);
+  ~frmGame() override;
+
+  // Start-up; shows the window.
+  void Form_Load(const QString& commandLine);
+
+  // False while work is going on that the player must not disturb.
+  bool PlayerMayAct() const { return works_ == 0; }
+  const CommandContext& Context() const { return context_; }
+  const GameState& State() const { return state_; }
+  BoardView& Board() { return *board_; }
+
+  // Opens the help at a keyword, or at its contents when the topic is empty.
+  void GetHelp(const QString& helpTopic);
+
+  void mnuFileNew_Click();
+  void mnuFileOpen_Click();
+  void mnuFileSave_Click();
+  void mnuFileRestart_Click();
+  void mnuFileSolve_Click();
+  void mnuFileAutoplay_Click();
+  void mnuFileOpenReplay_Click();
+  void mnuFileSaveReplay_Click();
+  void mnuFileExit_Click();
+  void mnuEditUndo_Click();
+  void mnuEditRedo_Click();
+  void mnuEditHistory_Click();
+  void mnuEditChessboardOpen_Click();
+  void mnuEditChessboardSave_Click();
+  void mnuPrefs_Click();
+  void mnuViewReplay_Click();
+  void mnuViewHistory_Click();
+  void mnuViewScore_Click();
+  void mnuViewTime_Click();
+  void mnuViewHighScores_Click();
+  void mnuViewLowScores_Click();
+  void mnuHelpContents_Click();
+  void mnuHelpHowToPlay_Click();
+  void mnuHelpAbout_Click();
+
+  // --- what the game asks of its window ---
+  void SetMenuEnabled(MenuEntry entry, bool enabled) override;
+  bool IsMenuEnabled(MenuEntry entry) const override;
+  void SetMenuChecked(MenuEntry entry, bool checked) override;
+  void RestoreColors(int x, int y) override;
+  void HighlightSquare(int index, bool forced) override;
+  std::string Caption() const override;
+  void SetCaption(const std::string& caption) override;
+  void EnableClock(bool enabled) override;
+  bool IsClockEnabled() const override;
+  bool Ask(const std::string& title, const std::string& text,
+           DefaultAnswer defaultAnswer) override;
+  void Tell(const std::string& title, const std::string& text, MessageIcon icon) override;
+  void EndGame(const GameOverReport& report) override;
+  void DoEvents() override;
+  void BeginWork() override;
+  void EndWork() override;
+  bool IsCloseRequested() const override { return closeRequested_; }
+  void OpenSettingsAndPlaceWindow() override;
+  void CreateBoard() override;
+  void LoadGameSetup() override;
+  void ShowWindow() override;
+  void OpenGameFile(const std::string& fileName) override;
+  void SaveSettings() override;
+
+  // --- what commands ask of it ---
+  void Form_Resize() override;
+  void RepaintWholeBoard() override;
+  void RefreshHighlight() override;
+  bool IsMinimised() const override;
+  WindowPlacement Placement() const override;
+  void CatchUpOnResize() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void ConnectBoard();
+  void CloseAsRequested();
+  bool SnapToMinimumHeight();
+  void MakeInnerAreaSquare();
+  void ApplyPlacement(const WindowPlacement& placement);
+
+  Globals& globals_;
+  GameState state_;
+  Game game_;
+  HalfSecondTimer tmrTime_;
+  BoardView* board_ = nullptr;
+  GameMenu menu_;
+  QtDialogs dialogs_;
+  ScreenWindows windows_;
+  CommandContext context_;
+  int works_ = 0;
+  bool closeRequested_ = false;
+  bool resizePending_ = false;
+  QSize sizeBeforeSquaring_;  // the size that was last asked to change, invalid when it did
+};

@@ -1,0 +1,67 @@
+// The main window's menu commands: each hands over to the game or to a command of its own.
+
+#include "solver/Autoplay.h"
+#include "ui/board/BoardView.h"
+#include "ui/commands/GameFiles.h"
+#include "ui/commands/Replay.h"
+#include "ui/windows/frmGame.h"
+
+void frmGame::mnuFileNew_Click() {
+  game_.mnuFileNew_Click();
+}
+
+void frmGame::mnuFileOpen_Click() {
+  LoadGame(context_, {.Replaying = false});
+}
+
+void frmGame::mnuFileOpenReplay_Click() {
+  LoadGame(context_, {.Replaying = true});
+}
+
+void frmGame::mnuFileSave_Click() {
+  SaveGame(context_);
+}
+
+void frmGame::mnuFileSaveReplay_Click() {
+  mnuFileSave_Click();
+}
+
+void frmGame::mnuFileRestart_Click() {
+  game_.mnuFileRestart_Click();
+}
+
+void frmGame::mnuFileAutoplay_Click() {
+  ::mnuFileAutoplay_Click(game_, state_, *this, random_);
+}
+
+void frmGame::mnuFileExit_Click() {
+  close();
+}
+
+void frmGame::mnuEditUndo_Click() {
+  game_.mnuEditUndo_Click();
+}
+
+void frmGame::mnuEditRedo_Click() {
+  game_.mnuEditRedo_Click();
+}
+
+void frmGame::mnuViewReplay_Click() {
+  ::mnuViewReplay_Click(context_);
+}
+
+void frmGame::mnuViewScore_Click() {
+  game_.mnuViewScore_Click();
+}
+
+void frmGame::mnuViewTime_Click() {
+  game_.mnuViewTime_Click();
+}
+
+void frmGame::mnuHelpContents_Click() {
+  GetHelp(QString());
+}
+
+void frmGame::mnuHelpHowToPlay_Click() {
+  GetHelp("How to Play");
+}

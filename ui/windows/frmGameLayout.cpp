@@ -1,0 +1,127 @@
+// The main window's place on the screen, its size, and the board inside it.
+
+#include <QApplication>
+#include <QEvent>
+#include <QMenuBar>
+#include <QScreen>
+#include <algorithm>
+#include <cmath>
+
+#include "ui/board/BoardLayout.h"
+#include "ui/board/BoardView.h"
+#include "ui/support/WindowPlacing.h"
+#include "ui/windows/frmGame.h"
+
+namespace {
+
+constexpr int Maximised = 2;  // the stored window state
+// Room for a title bar and borders, whose size is not known before the window is shown.
+constexpr int DecorationAllowance = 48;
+
+// Far beyond every screen, and safe to calculate with.
+constexpr double LargestPixel = 32000;
+
+int PixelFrom(std::optional<double> twips, int otherwise) {
+  if (!twips) return otherwise;
+  return static_cast<int>(
+      std::lround(std::clamp(PixelsFromTwips(*twips), -LargestPixel, LargestPixel)));
+}
+
+}  // namespace
+
+void frmGame::CreateBoard() {
+  ConnectBoard();
+  board_->setFocus();
+}
+
+void frmGame::ConnectBoard() {
+  connect(board_, &BoardView::SquareClicked, this, [this](int index) {
+    if (PlayerMayAct()) game_.pctGrid_Click(index);
+  });
+  connect(board_, &BoardView::SquareEntered, this, [this](int index) {
+    if (PlayerMayAct()) game_.pctGrid_MouseMove(index, 0);
+  });
+  connect(board_, &BoardView::KeyPressed, this, [this](int keyCode) {
+    if (PlayerMayAct()) game_.pctGrid_KeyDown(keyCode);
+  });
+  connect(board_, &BoardView::Resized, this, [this] { Form_Resize(); });
+}
+
+void frmGame::OpenSettingsAndPlaceWindow() {
+  globals_.IniFilePathName = globals_.ProgramDirectory + "GallopadeNova.ini";
+  ApplyPlacement(ReadWindowPlacement(globals_.IniFile, globals_.IniFilePathName));
+}
+
+void frmGame::ApplyPlacement(const WindowPlacement& placement) {
+  const QRect available = screen()->availableGeometry();
+  const int menuHeight = menuBar()->sizeHint().height();
+  const int designedSide =
+      std::min({static_cast<int>(PixelsFromTwips(DesignedInnerSideTwips)), available.width(),
+                available.height() - menuHeight - DecorationAllowance});
+  const QSize size(std::max(PixelFrom(placement.Width, designedSide), 1),
+                   std::max(PixelFrom(placement.Height, designedSide + menuHeight), 1));
+  const QPoint centred = available.center() - QPoint(size.width() / 2, size.height() / 2);
+  const QRect bounds = BroughtOntoScreen(
+      {{PixelFrom(placement.Left, centred.x()), PixelFrom(placement.Top, centred.y())}, size});
+  move(bounds.topLeft());
+  resize(bounds.size());
+  if (placement.State == Maximised) setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+void frmGame::ShowWindow() {
+  show();
+}
+
+bool frmGame::IsMinimised() const {
+  return isMinimized();
+}
+
+WindowPlacement frmGame::Placement() const {
+  const bool normal = !isMaximized() && !isMinimized() && !isFullScreen();
+  const QPoint decoration = geometry().topLeft() - pos();
+  const QPoint corner = normal ? pos() : normalGeometry().topLeft() - decoration;
+  const QSize size = normal ? this->size() : normalGeometry().size();
+  return {.Left = TwipsFromPixels(corner.x()),
+          .Top = TwipsFromPixels(corner.y()),
+          .Height = TwipsFromPixels(size.height()),
+          .Width = TwipsFromPixels(size.width()),
+          .State = isMaximized() ? Maximised : 0};
+}
+
+void frmGame::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) {
+    game_.ClockOnResize(isMinimized(), QApplication::activeModalWidget() != nullptr);
+  }
+}
+
+void frmGame::Form_Resize() {
+  game_.ClockOnResize(isMinimized(), QApplication::activeModalWidget() != nullptr);
+  resizePending_ = state_.ApplyingMoves;
+  if (isMinimized() || resizePending_ || SnapToMinimumHeight()) return;
+  board_->LayOut(globals_.settings);
+  if (!isMaximized() && !isFullScreen()) MakeInnerAreaSquare();
+}
+
+void frmGame::CatchUpOnResize() {
+  if (resizePending_) Form_Resize();
+}
+
+// Too low a window is given its smallest height; in that height the board is laid out as usual.
+bool frmGame::SnapToMinimumHeight() {
+  const int minimum = static_cast<int>(std::lround(PixelsFromTwips(MinimumInnerHeightTwips)));
+  if (board_->height() >= minimum || height() == minimum || isMaximized()) return false;
+  resize(width(), minimum);
+  return true;
+}
+
+// A window manager may refuse the size; it is then not asked for the same thing again.
+void frmGame::MakeInnerAreaSquare() {
+  const QSize square(width() - board_->width() + board_->height(), height());
+  if (square == size()) {
+    sizeBeforeSquaring_ = QSize();
+  } else if (size() != sizeBeforeSquaring_) {
+    sizeBeforeSquaring_ = size();
+    resize(square);
+  }
+}
