@@ -55,8 +55,8 @@ void Game::ClockOnResize(bool minimised, bool resting) {
     return;
   }
   const int movesBeforePlay = state_.GameStartingPosition == 1 ? 0 : 1;
-  const bool playing = state_.MoveCount != movesBeforePlay &&
-                       !CheckIfGameOver(state_.KnightX, state_.KnightY);
+  const bool playing =
+      state_.MoveCount != movesBeforePlay && !CheckIfGameOver(state_.KnightX, state_.KnightY);
   if (playing && !resting) window_.EnableClock(true);
 }
 

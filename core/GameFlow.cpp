@@ -44,8 +44,7 @@ void Game::OpenCommandLineGame(const std::string& commandLine) {
 bool Game::Form_Unload() {
   if (GameInProgress()) {
     const bool wasRunning = DoTiming();
-    if (!window_.Ask("Exit?",
-                     "Your current game is not finished. Do you really want to exit?")) {
+    if (!window_.Ask("Exit?", "Your current game is not finished. Do you really want to exit?")) {
       window_.EnableClock(wasRunning);
       return false;
     }

@@ -58,9 +58,7 @@ struct GameState {
   // which it was working on is gone.
   std::uint32_t GameSerial = 0;
 
-  std::int16_t& Cell(int x, int y) {
-    return Board[static_cast<std::size_t>(x + y * BoardStride)];
-  }
+  std::int16_t& Cell(int x, int y) { return Board[static_cast<std::size_t>(x + y * BoardStride)]; }
   std::int16_t Cell(int x, int y) const {
     return Board[static_cast<std::size_t>(x + y * BoardStride)];
   }

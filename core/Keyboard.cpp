@@ -22,8 +22,8 @@ void Game::ClickOnCursor() {
   if (state_.CursorX != -1) pctGrid_Click(SquareIndex(state_.CursorX, state_.CursorY));
 }
 
-// The directions treat the edges differently: the backward keys stay put when there is no cursor and
-// the knight is at their edge, the forward keys then show the cursor on the knight.
+// The directions treat the edges differently: the backward keys stay put when there is no cursor
+// and the knight is at their edge, the forward keys then show the cursor on the knight.
 void Game::MoveCursor(int keyCode) {
   constexpr int last = BoardSide - 1;
   const bool hadCursor = state_.CursorX != -1;
@@ -36,14 +36,18 @@ void Game::MoveCursor(int keyCode) {
     case KeyCode::Right:
     case KeyCode::Numeric6:
       if (hadCursor && x == last) return;
-      if (beforeFirstSquare) x = y = 0;
-      else if (x < last) ++x;
+      if (beforeFirstSquare)
+        x = y = 0;
+      else if (x < last)
+        ++x;
       break;
     case KeyCode::Down:
     case KeyCode::Numeric2:
       if (hadCursor && y == last) return;
-      if (beforeFirstSquare) x = y = 0;
-      else if (y < last) ++y;
+      if (beforeFirstSquare)
+        x = y = 0;
+      else if (y < last)
+        ++y;
       break;
     case KeyCode::Left:
     case KeyCode::Numeric4:

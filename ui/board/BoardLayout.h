@@ -31,8 +31,8 @@ BoardLayout LayOutBoard(double innerHeight, double cornerDistance);
 // The inside of a cell in twips: less its border where it has one.
 double InnerCellSide(const BoardLayout& layout, bool useBorders);
 
-// The nine edges of the columns (and of the rows) in device pixels, each rounded on its own, so that
-// no seam is blended and the board fills its area exactly.
+// The nine edges of the columns (and of the rows) in device pixels, each rounded on its own, so
+// that no seam is blended and the board fills its area exactly.
 std::array<int, BoardSide + 1> CellEdges(const BoardLayout& layout, double devicePixelRatio);
 
 // Which column (or row) holds a position in logical pixels; -1 outside the board.

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QImage>
 #include <array>
+
+#include <QImage>
 
 #include "ui/board/BoardModel.h"
 

@@ -1,15 +1,20 @@
 #include "ui/board/BoardView.h"
 
+#include <bit>
+#include <cmath>
+#include <utility>
+
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <bit>
-#include <cmath>
 
+#include "ui/board/AccessibleBoard.h"
 #include "ui/board/BoardKeys.h"
 #include "ui/support/SystemColors.h"
 
 BoardView::BoardView(const GameState& state, QWidget* parent) : QWidget(parent), state_(state) {
+  AccessibleBoard::Install();
   setObjectName("pctGrid");
   setAccessibleName("Chessboard");
   setFocusPolicy(Qt::StrongFocus);
@@ -23,8 +28,8 @@ void BoardView::SetPictures(BoardPictures pictures) {
   background_ = QPixmap();
   for (int i = 0; i < SquarePictureCount; ++i) {
     const QSize size = pictures_.squares[static_cast<std::size_t>(i)].size();
-    model_.SetPictureSize(static_cast<SquarePicture>(i), {TwipsFromPixels(size.width()),
-                                                          TwipsFromPixels(size.height())});
+    model_.SetPictureSize(static_cast<SquarePicture>(i),
+                          {TwipsFromPixels(size.width()), TwipsFromPixels(size.height())});
   }
   update();
 }
@@ -55,6 +60,17 @@ QRegion BoardView::ChangedRegion() {
 void BoardView::ShowChanges() {
   const QRegion region = ChangedRegion();
   if (!region.isEmpty()) update(region);
+  if (QAccessible::isActive()) AnnounceCursor();
+}
+
+// The cursor goes along with the knight, so that a screen reader tells every move too.
+void BoardView::AnnounceCursor() {
+  const bool hasCursor = IsSquare(state_.CursorX, state_.CursorY);
+  const int square = hasCursor ? SquareIndex(state_.CursorX, state_.CursorY) : -1;
+  if (std::exchange(announcedSquare_, square) == square || square == -1) return;
+  QAccessibleEvent event(this, QAccessible::Focus);
+  event.setChild(AccessibleBoard::ChildOfSquare(square));
+  QAccessible::updateAccessibility(&event);
 }
 
 void BoardView::ShowChangesNow() {
@@ -129,8 +145,8 @@ void BoardView::PaintBackground(QPainter& painter, const QRegion& region) {
   painter.fillRect(everything, ResolveColor(backgroundColor_, palette()));
   if (!showBackgroundImage_ || pictures_.background.isNull()) return;
   if (background_.isNull()) {
-    background_ = QPixmap::fromImage(pictures_.background.scaled(
-        side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    background_ = QPixmap::fromImage(
+        pictures_.background.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
   }
   painter.drawPixmap(0, 0, background_);
 }

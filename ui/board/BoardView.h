@@ -62,6 +62,7 @@ class BoardView : public QWidget {
 
  private:
   QRegion ChangedRegion();
+  void AnnounceCursor();
   void PaintCells(QPainter& painter, const QRegion& region);
   void PaintBackground(QPainter& painter, const QRegion& region);
 
@@ -75,5 +76,6 @@ class BoardView : public QWidget {
   CellPainter cellPainter_;
   QPixmap background_;  // the background image in its present size, made when first needed
   int pressedSquare_ = -1;
+  int announcedSquare_ = -1;
   std::uint64_t paintedCells_ = 0;
 };

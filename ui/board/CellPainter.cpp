@@ -1,7 +1,8 @@
 #include "ui/board/CellPainter.h"
 
-#include <QPainter>
 #include <cmath>
+
+#include <QPainter>
 
 #include "ui/board/BoardLayout.h"
 
@@ -25,8 +26,8 @@ const QPixmap& CellPainter::PixmapFor(const BoardCell& cell, const QColor& color
                                       int height, double devicePixelRatio) {
   const bool hasPicture = cell.imageVisible && cell.picture.has_value();
   const int picture = hasPicture ? static_cast<int>(*cell.picture) : -1;
-  const Look look{width,        height,         color.rgb(),   cell.border, picture,
-                  cell.stretch, cell.imageLeft, cell.imageTop};
+  const Look look{width,   height,       color.rgb(),    cell.border,
+                  picture, cell.stretch, cell.imageLeft, cell.imageTop};
   if (const auto made = pixmaps_.find(look); made != pixmaps_.end()) return made->second;
   if (pixmaps_.size() >= MaximumLooks) Clear();
 
@@ -51,9 +52,8 @@ void CellPainter::DrawPicture(QPainter& painter, const BoardCell& cell, const QR
   if (picture.isNull() || inside.isEmpty()) return;
   painter.setClipRect(inside);
   if (cell.stretch) {
-    painter.drawImage(inside.topLeft(),
-                      picture.scaled(inside.size(), Qt::IgnoreAspectRatio,
-                                     Qt::SmoothTransformation));
+    painter.drawImage(inside.topLeft(), picture.scaled(inside.size(), Qt::IgnoreAspectRatio,
+                                                       Qt::SmoothTransformation));
   } else {
     const QPoint at = inside.topLeft() + QPoint(DevicePixels(cell.imageLeft, devicePixelRatio),
                                                 DevicePixels(cell.imageTop, devicePixelRatio));

@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QColor>
-#include <QPixmap>
 #include <map>
 #include <tuple>
+
+#include <QColor>
+#include <QPixmap>
 
 #include "ui/board/BoardModel.h"
 #include "ui/board/BoardPictures.h"

@@ -16,8 +16,8 @@ struct CommandContext {
   Globals& globals;
 };
 
-// The clock rests for the length of a scope, usually that of a dialog, and then runs again if it ran
-// before.
+// The clock rests for the length of a scope, usually that of a dialog, and then runs again if it
+// ran before.
 class ClockPause {
  public:
   explicit ClockPause(const CommandContext& context)

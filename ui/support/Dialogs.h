@@ -9,7 +9,8 @@ struct FileQuestion {
   QString filter;
 };
 
-// The toolkit's common dialogs behind a small interface, so that commands can be tested without them.
+// The toolkit's common dialogs behind a small interface, so that commands can be tested without
+// them.
 class Dialogs {
  public:
   Dialogs() = default;

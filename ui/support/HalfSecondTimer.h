@@ -1,8 +1,9 @@
 #pragma once
 
+#include <functional>
+
 #include <QElapsedTimer>
 #include <QTimer>
-#include <functional>
 
 // The clock timer: calls tick once for every half second that passed while it was enabled, counted
 // from a monotonic clock, so that none is lost or doubled while the window is busy. Enabling it

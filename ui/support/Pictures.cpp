@@ -12,8 +12,7 @@ QImage Read(const QString& pathName, bool byContent) {
   const QSize size = reader.size();
   if (size.width() > MaximumPictureSide || size.height() > MaximumPictureSide) return {};
   const QImage image = reader.read();
-  const bool tooLarge =
-      image.width() > MaximumPictureSide || image.height() > MaximumPictureSide;
+  const bool tooLarge = image.width() > MaximumPictureSide || image.height() > MaximumPictureSide;
   return tooLarge ? QImage() : image;
 }
 

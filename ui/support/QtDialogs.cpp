@@ -26,7 +26,8 @@ QString QtDialogs::SaveFile(const FileQuestion& question) {
   while (dialog.exec() == QDialog::Accepted) {
     const QString pathName = dialog.selectedFiles().value(0);
     if (QFileInfo(pathName).absoluteDir().exists()) return pathName;
-    Tell(dialog.windowTitle(), pathName + "\nPath does not exist.\nVerify that it is the right one.",
+    Tell(dialog.windowTitle(),
+         pathName + "\nPath does not exist.\nVerify that it is the right one.",
          MessageIcon::Exclamation);
   }
   return {};

@@ -13,31 +13,31 @@ struct SystemColorSource {
 
 // In the order of the system's colour indices.
 constexpr std::array<SystemColorSource, SystemColorCount> Sources{{
-    {std::nullopt, 0xC8C8C8},                 // 0 scroll bar
-    {std::nullopt, 0x3A6EA5},                 // 1 desktop
-    {std::nullopt, 0x0A246A},                 // 2 active window title bar
-    {std::nullopt, 0x808080},                 // 3 inactive window title bar
-    {QPalette::Window, 0xD4D0C8},             // 4 menu bar
-    {QPalette::Base, 0xFFFFFF},               // 5 window background
-    {std::nullopt, 0x000000},                 // 6 window frame
-    {QPalette::WindowText, 0x000000},         // 7 menu text
-    {QPalette::Text, 0x000000},               // 8 window text
-    {std::nullopt, 0xFFFFFF},                 // 9 title bar text
-    {std::nullopt, 0xD4D0C8},                 // 10 active window border
-    {std::nullopt, 0xD4D0C9},                 // 11 inactive window border
-    {std::nullopt, 0x7F7F7F},                 // 12 application background
-    {QPalette::Highlight, 0x0A246A},          // 13 highlight
-    {QPalette::HighlightedText, 0xFFFFFF},    // 14 highlight text
-    {QPalette::Button, 0xD4D0C8},             // 15 3-D face
-    {std::nullopt, 0x808080},                 // 16 3-D shadow
-    {std::nullopt, 0x808080},                 // 17 disabled text
-    {QPalette::ButtonText, 0x000000},         // 18 button text
-    {std::nullopt, 0xD4D0C8},                 // 19 inactive window title bar text
-    {QPalette::Light, 0xFFFFFF},              // 20 3-D highlight
-    {std::nullopt, 0x404040},                 // 21 3-D dark shadow
-    {std::nullopt, 0xD4D0C8},                 // 22 3-D light shadow
-    {QPalette::ToolTipText, 0x000000},        // 23 tooltip text
-    {QPalette::ToolTipBase, 0xFFFFE1},        // 24 tooltip background
+    {std::nullopt, 0xC8C8C8},               // 0 scroll bar
+    {std::nullopt, 0x3A6EA5},               // 1 desktop
+    {std::nullopt, 0x0A246A},               // 2 active window title bar
+    {std::nullopt, 0x808080},               // 3 inactive window title bar
+    {QPalette::Window, 0xD4D0C8},           // 4 menu bar
+    {QPalette::Base, 0xFFFFFF},             // 5 window background
+    {std::nullopt, 0x000000},               // 6 window frame
+    {QPalette::WindowText, 0x000000},       // 7 menu text
+    {QPalette::Text, 0x000000},             // 8 window text
+    {std::nullopt, 0xFFFFFF},               // 9 title bar text
+    {std::nullopt, 0xD4D0C8},               // 10 active window border
+    {std::nullopt, 0xD4D0C9},               // 11 inactive window border
+    {std::nullopt, 0x7F7F7F},               // 12 application background
+    {QPalette::Highlight, 0x0A246A},        // 13 highlight
+    {QPalette::HighlightedText, 0xFFFFFF},  // 14 highlight text
+    {QPalette::Button, 0xD4D0C8},           // 15 3-D face
+    {std::nullopt, 0x808080},               // 16 3-D shadow
+    {std::nullopt, 0x808080},               // 17 disabled text
+    {QPalette::ButtonText, 0x000000},       // 18 button text
+    {std::nullopt, 0xD4D0C8},               // 19 inactive window title bar text
+    {QPalette::Light, 0xFFFFFF},            // 20 3-D highlight
+    {std::nullopt, 0x404040},               // 21 3-D dark shadow
+    {std::nullopt, 0xD4D0C8},               // 22 3-D light shadow
+    {QPalette::ToolTipText, 0x000000},      // 23 tooltip text
+    {QPalette::ToolTipBase, 0xFFFFE1},      // 24 tooltip background
 }};
 
 // The three shades that colour the squares by default. A palette's own shades may all be one dark

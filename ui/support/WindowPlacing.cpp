@@ -1,9 +1,10 @@
 #include "ui/support/WindowPlacing.h"
 
+#include <algorithm>
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
-#include <algorithm>
 
 QPoint CentredPosition(const QSize& dialog, const QRect& mainWindow, const QRect& screen) {
   int left = mainWindow.left() + mainWindow.width() / 2 - dialog.width() / 2;

@@ -1,8 +1,9 @@
 #include "ui/windows/GameMenu.h"
 
+#include <optional>
+
 #include <QMenu>
 #include <QMenuBar>
-#include <optional>
 
 #include "ui/windows/frmGame.h"
 
@@ -60,8 +61,7 @@ constexpr MenuRow ViewRows[] = {
     {"mnuViewHistory", "&Move History...", nullptr, &frmGame::mnuViewHistory_Click,
      MenuEntry::mnuViewHistory},
     Separator,
-    {"mnuViewScore", "Show &Score", nullptr, &frmGame::mnuViewScore_Click,
-     MenuEntry::mnuViewScore},
+    {"mnuViewScore", "Show &Score", nullptr, &frmGame::mnuViewScore_Click, MenuEntry::mnuViewScore},
     {"mnuViewTime", "Show &Time", nullptr, &frmGame::mnuViewTime_Click, MenuEntry::mnuViewTime},
     Separator,
     {"mnuViewHighScores", "&High Scores...", nullptr, &frmGame::mnuViewHighScores_Click},

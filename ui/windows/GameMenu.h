@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QAction>
 #include <array>
+
+#include <QAction>
 
 #include "core/GameWindow.h"
 

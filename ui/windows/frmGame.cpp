@@ -26,6 +26,8 @@ frmGame::frmGame(Globals& globals)
       windows_(*this),
       context_{game_, state_, *this, dialogs_, windows_, globals} {
   setObjectName("frmGame");
+  board_ = new BoardView(state_, this);
+  setCentralWidget(board_);
 }
 
 frmGame::~frmGame() = default;
@@ -73,8 +75,7 @@ bool frmGame::IsClockEnabled() const {
   return tmrTime_.IsEnabled();
 }
 
-bool frmGame::Ask(const std::string& title, const std::string& text,
-                  DefaultAnswer defaultAnswer) {
+bool frmGame::Ask(const std::string& title, const std::string& text, DefaultAnswer defaultAnswer) {
   return dialogs_.Ask(QString::fromStdString(title), QString::fromStdString(text), defaultAnswer);
 }
 
@@ -127,22 +128,23 @@ void frmGame::LoadGameSetup() {
   const auto load = [this](const QString& name) {
     return LoadPicture(name, globals_.ProgramDirectory);
   };
-  board_->SetPictures({{load(settings.LightImage), load(settings.DarkImage),
-                        load(settings.VisitedImage), load(settings.KnightImage),
-                        load(settings.HighlightImage)},
-                       load(settings.ChessboardBackgroundImage)});
+  board_->SetPictures(
+      {{load(settings.LightImage), load(settings.DarkImage), load(settings.VisitedImage),
+        load(settings.KnightImage), load(settings.HighlightImage)},
+       load(settings.ChessboardBackgroundImage)});
 }
 
 void frmGame::OpenGameFile(const std::string& fileName) {
-  LoadGame(context_, {.Replaying = false, .NoCdlog = true,
-                      .NoCdlogFilename = QString::fromStdString(fileName)});
+  LoadGame(
+      context_,
+      {.Replaying = false, .NoCdlog = true, .NoCdlogFilename = QString::fromStdString(fileName)});
 }
 
 void frmGame::SaveSettings() {
   QString ignoredError;
-  globals_.IniFile.WriteIniFileValues(
-      globals_.IniFilePathName, ExitEntries(globals_.settings, Placement(), IsMinimised()),
-      ignoredError);
+  globals_.IniFile.WriteIniFileValues(globals_.IniFilePathName,
+                                      ExitEntries(globals_.settings, Placement(), IsMinimised()),
+                                      ignoredError);
 }
 
 void frmGame::RefreshHighlight() {

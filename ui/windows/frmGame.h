@@ -70,8 +70,7 @@ class frmGame : public QMainWindow, public MainWindow {
   void SetCaption(const std::string& caption) override;
   void EnableClock(bool enabled) override;
   bool IsClockEnabled() const override;
-  bool Ask(const std::string& title, const std::string& text,
-           DefaultAnswer defaultAnswer) override;
+  bool Ask(const std::string& title, const std::string& text, DefaultAnswer defaultAnswer) override;
   void Tell(const std::string& title, const std::string& text, MessageIcon icon) override;
   void EndGame(const GameOverReport& report) override;
   void DoEvents() override;

@@ -1,11 +1,12 @@
 // The main window's place on the screen, its size, and the board inside it.
 
+#include <algorithm>
+#include <cmath>
+
 #include <QApplication>
 #include <QEvent>
 #include <QMenuBar>
 #include <QScreen>
-#include <algorithm>
-#include <cmath>
 
 #include "ui/board/BoardLayout.h"
 #include "ui/board/BoardView.h"

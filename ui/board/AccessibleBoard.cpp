@@ -1,0 +1,119 @@
+#include "ui/board/AccessibleBoard.h"
+
+#include "ui/board/BoardView.h"
+
+namespace {
+
+QAccessibleInterface* MakeAccessible(const QString& className, QObject* object) {
+  if (className != "BoardView") return nullptr;
+  return new AccessibleBoard(*static_cast<BoardView*>(object));
+}
+
+}  // namespace
+
+AccessibleBoard::AccessibleBoard(BoardView& view)
+    : QAccessibleWidget(&view, QAccessible::Table), view_(view) {}
+
+AccessibleBoard::~AccessibleBoard() {
+  for (const QAccessible::Id id : squares_) {
+    if (id != 0) QAccessible::deleteAccessibleInterface(id);
+  }
+}
+
+void AccessibleBoard::Install() {
+  QAccessible::installFactory(MakeAccessible);
+}
+
+void* AccessibleBoard::interface_cast(QAccessible::InterfaceType type) {
+  if (type == QAccessible::TableInterface) return static_cast<QAccessibleTableInterface*>(this);
+  return QAccessibleWidget::interface_cast(type);
+}
+
+QAccessibleInterface* AccessibleBoard::child(int number) const {
+  if (number < 0 || number >= SquareCount) return nullptr;
+  QAccessible::Id& id = squares_[static_cast<std::size_t>(number)];
+  if (id == 0) {
+    const int index = SquareIndex(number % BoardSide, number / BoardSide);
+    id = QAccessible::registerAccessibleInterface(new AccessibleSquare(view_, index));
+  }
+  return QAccessible::accessibleInterface(id);
+}
+
+int AccessibleBoard::indexOfChild(const QAccessibleInterface* child) const {
+  const auto* square = dynamic_cast<const AccessibleSquare*>(child);
+  return square == nullptr ? -1 : ChildOfSquare(square->Index());
+}
+
+QAccessibleInterface* AccessibleBoard::childAt(int x, int y) const {
+  const int index = view_.SquareAtPosition(view_.mapFromGlobal(QPoint(x, y)));
+  return index == -1 ? nullptr : child(ChildOfSquare(index));
+}
+
+QAccessibleInterface* AccessibleBoard::focusChild() const {
+  const GameState& game = view_.State();
+  if (!view_.hasFocus() || !IsSquare(game.CursorX, game.CursorY)) return nullptr;
+  return child(ChildOfSquare(SquareIndex(game.CursorX, game.CursorY)));
+}
+
+QAccessibleInterface* AccessibleBoard::cellAt(int row, int column) const {
+  return IsSquare(column, row) ? child(ChildOfSquare(SquareIndex(column, row))) : nullptr;
+}
+
+QString AccessibleBoard::columnDescription(int column) const {
+  return QString(QChar('A' + column));
+}
+
+QString AccessibleBoard::rowDescription(int row) const {
+  return QString::number(BoardSide - row);
+}
+
+void* AccessibleSquare::interface_cast(QAccessible::InterfaceType type) {
+  if (type == QAccessible::TableCellInterface) {
+    return static_cast<QAccessibleTableCellInterface*>(this);
+  }
+  if (type == QAccessible::ActionInterface) return static_cast<QAccessibleActionInterface*>(this);
+  return nullptr;
+}
+
+QAccessibleInterface* AccessibleSquare::parent() const {
+  return QAccessible::queryAccessibleInterface(&view_);
+}
+
+QAccessible::State AccessibleSquare::state() const {
+  const GameState& game = view_.State();
+  QAccessible::State state;
+  state.focusable = true;
+  state.focused = view_.hasFocus() && SquareIndex(game.CursorX, game.CursorY) == index_;
+  state.invisible = !view_.isVisible();
+  return state;
+}
+
+QRect AccessibleSquare::rect() const {
+  const QRect square = view_.SquareRectangle(index_);
+  return {view_.mapToGlobal(square.topLeft()), square.size()};
+}
+
+QString AccessibleSquare::text(QAccessible::Text text) const {
+  switch (text) {
+    case QAccessible::Name:
+      return QString::fromStdString(SquareName(ColumnOf(index_), RowOf(index_)));
+    case QAccessible::Description:
+      return StateText();
+    default:
+      return {};
+  }
+}
+
+QString AccessibleSquare::StateText() const {
+  const GameState& game = view_.State();
+  const int x = ColumnOf(index_);
+  const int y = RowOf(index_);
+  if (!game.FirstMoveMade) return "can be reached";
+  if (x == game.KnightX && y == game.KnightY) return "knight";
+  if (game.Cell(x, y) == GameState::Visited) return "visited";
+  return IsKnightsMove(game.KnightX, game.KnightY, x, y) ? "can be reached" : "free";
+}
+
+void AccessibleSquare::doAction(const QString& actionName) {
+  if (actionName == pressAction()) emit view_.SquareClicked(index_);
+}
