@@ -4,7 +4,7 @@ include_guard()
 add_library(gallopade_warnings INTERFACE)
 target_compile_options(gallopade_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
-  -Wcast-align -Wunused -Wduplicated-cond -Wlogical-op -Wuseless-cast)
+  -Wcast-align -Wunused -Wduplicated-cond -Wlogical-op)
 if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
   target_compile_options(gallopade_warnings INTERFACE -Wno-unknown-warning-option)
 endif()

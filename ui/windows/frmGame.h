@@ -106,6 +106,7 @@ class frmGame : public QMainWindow, public MainWindow {
   Globals& globals_;
   GameState state_;
   Game game_;
+  Random random_;
   HalfSecondTimer tmrTime_;
   BoardView* board_ = nullptr;
   GameMenu menu_;

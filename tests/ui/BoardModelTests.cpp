@@ -1,0 +1,195 @@
+#include <bit>
+
+#include <gtest/gtest.h>
+
+#include "ui/board/BoardModel.h"
+
+namespace {
+
+constexpr int CornerSquare = SquareIndex(0, 0);
+constexpr int ReachableSquare = SquareIndex(2, 1);
+
+class Board : public testing::Test {
+ protected:
+  Board() {
+    Take(0, 0);
+    model.RestoreColors(state, look, -1, -1);
+    model.TakeChanges();
+  }
+
+  void Take(int x, int y) {
+    state.Cell(x, y) = GameState::Visited;
+    state.KnightX = static_cast<std::int16_t>(x);
+    state.KnightY = static_cast<std::int16_t>(y);
+    state.FirstMoveMade = true;
+  }
+
+  int ChangedCells() { return std::popcount(model.TakeChanges()); }
+
+  GameState state;
+  BoardLook look;
+  BoardModel model;
+};
+
+}  // namespace
+
+TEST_F(Board, IsDarkInTheTopLeftCornerAndLightBesideIt) {
+  state = GameState{};
+  model.RestoreColors(state, look, -1, -1);
+  EXPECT_EQ(model.Cell(SquareIndex(0, 0)).backColor, look.DarkColor);
+  EXPECT_EQ(model.Cell(SquareIndex(0, 0)).picture, SquarePicture::Dark);
+  EXPECT_EQ(model.Cell(SquareIndex(1, 0)).backColor, look.LightColor);
+  EXPECT_EQ(model.Cell(SquareIndex(1, 0)).picture, SquarePicture::Light);
+}
+
+TEST_F(Board, ShowsTheKnightAndTheSquaresItHasVisited) {
+  Take(2, 1);
+  model.RestoreColors(state, look, -1, -1);
+  EXPECT_EQ(model.Cell(CornerSquare).picture, SquarePicture::Visited);
+  EXPECT_EQ(model.Cell(ReachableSquare).picture, SquarePicture::Knight);
+}
+
+TEST_F(Board, ShowsNoKnightBeforeTheFirstSquareIsTaken) {
+  BoardModel fresh;
+  fresh.RestoreColors(GameState{}, look, -1, -1);
+  for (int i = 0; i < SquareCount; ++i) EXPECT_NE(fresh.Cell(i).picture, SquarePicture::Knight);
+}
+
+TEST_F(Board, ChangesNothingWhenNothingChanged) {
+  model.RestoreColors(state, look, -1, -1);
+  EXPECT_EQ(ChangedCells(), 0);
+}
+
+TEST_F(Board, ChangesTwoCellsForAMove) {
+  Take(2, 1);
+  model.RestoreColors(state, look, -1, -1);
+  EXPECT_EQ(ChangedCells(), 2);
+}
+
+TEST_F(Board, ChangesNothingWhileThePointerStaysInOneSquare) {
+  model.HighlightSquare(state, look, ReachableSquare, false);
+  EXPECT_EQ(ChangedCells(), 1);
+  model.HighlightSquare(state, look, ReachableSquare, false);
+  EXPECT_EQ(ChangedCells(), 0);
+}
+
+TEST_F(Board, HighlightsOneSquareAtATime) {
+  model.HighlightSquare(state, look, ReachableSquare, false);
+  model.HighlightSquare(state, look, SquareIndex(1, 2), false);
+  EXPECT_NE(model.Cell(ReachableSquare).backColor, look.HighlightColor);
+  EXPECT_EQ(model.Cell(SquareIndex(1, 2)).backColor, look.HighlightColor);
+}
+
+TEST_F(Board, HighlightsOnlyValidMovesWhenToldSo) {
+  look.HighlightingMethod = 2;
+  model.HighlightSquare(state, look, SquareIndex(3, 3), false);
+  EXPECT_NE(model.Cell(SquareIndex(3, 3)).backColor, look.HighlightColor);
+  model.HighlightSquare(state, look, CornerSquare, false);
+  EXPECT_EQ(model.Cell(CornerSquare).backColor, look.KnightColor);
+  Take(2, 1);
+  model.HighlightSquare(state, look, CornerSquare, false);
+  EXPECT_EQ(model.Cell(CornerSquare).backColor, look.VisitedColor);
+}
+
+TEST_F(Board, HighlightsAnySquareUnderTheCursorWhenToldSo) {
+  look.HighlightingMethod = 1;
+  model.HighlightSquare(state, look, SquareIndex(3, 3), false);
+  EXPECT_EQ(model.Cell(SquareIndex(3, 3)).backColor, look.HighlightColor);
+  EXPECT_EQ(model.Cell(SquareIndex(3, 3)).picture, SquarePicture::Highlight);
+}
+
+TEST_F(Board, HighlightsNothingWhenToldSo) {
+  look.HighlightingMethod = 0;
+  model.HighlightSquare(state, look, ReachableSquare, false);
+  EXPECT_EQ(ChangedCells(), 0);
+}
+
+TEST_F(Board, HighlightsTheSquareToBeginOnWhateverTheMethod) {
+  look.HighlightingMethod = 0;
+  state = GameState{};
+  model.HighlightSquare(state, look, SquareIndex(3, 3), false);
+  EXPECT_EQ(model.Cell(SquareIndex(3, 3)).backColor, look.HighlightColor);
+}
+
+TEST_F(Board, HighlightsAForcedSquareWhateverTheMethod) {
+  look.HighlightingMethod = 0;
+  model.HighlightSquare(state, look, SquareIndex(3, 3), true);
+  EXPECT_EQ(model.Cell(SquareIndex(3, 3)).backColor, look.HighlightColor);
+}
+
+TEST_F(Board, DrawsNothingWhileTheSolverRunsAndEverythingAfterIt) {
+  Take(2, 1);
+  state.SolverRunning = true;
+  model.RestoreColors(state, look, -1, -1);
+  EXPECT_EQ(ChangedCells(), 0);
+  state.SolverRunning = false;
+  model.RestoreColors(state, look, -1, -1);
+  EXPECT_EQ(ChangedCells(), 2);
+}
+
+TEST_F(Board, KeepsThePictureOfASquareWhoseColorStays) {
+  look.UseImages = false;
+  BoardModel plain;
+  plain.RestoreColors(state, look, -1, -1);
+  look.UseImages = true;
+  plain.RestoreColors(state, look, -1, -1);
+  EXPECT_FALSE(plain.Cell(SquareIndex(3, 3)).picture.has_value());
+}
+
+TEST_F(Board, HidesAllImagesWhenImagesAreNotUsed) {
+  look.UseImages = false;
+  model.RestoreColors(state, look, -1, -1);
+  for (int i = 0; i < SquareCount; ++i) EXPECT_FALSE(model.Cell(i).imageVisible);
+  EXPECT_EQ(ChangedCells(), SquareCount);
+}
+
+TEST_F(Board, StretchesOrCentresTheImagesItShowsAgain) {
+  look.UseImages = false;
+  model.RestoreColors(state, look, -1, -1);
+  look.UseImages = true;
+  look.ImagePositioning = 1;
+  model.RestoreColors(state, look, -1, -1);
+  for (int i = 0; i < SquareCount; ++i) {
+    EXPECT_TRUE(model.Cell(i).imageVisible);
+    EXPECT_FALSE(model.Cell(i).stretch);
+  }
+}
+
+TEST_F(Board, GivesAndTakesBorders) {
+  look.UseBorders = true;
+  model.RestoreColors(state, look, -1, -1);
+  EXPECT_TRUE(model.Cell(5).border);
+  look.UseBorders = false;
+  model.RestoreColors(state, look, -1, -1);
+  EXPECT_FALSE(model.Cell(5).border);
+}
+
+TEST_F(Board, CentresAPictureInItsCell) {
+  look.ImagePositioning = 1;
+  model.SetCellSide(1200);
+  model.SetPictureSize(SquarePicture::Light, {600, 300});
+  model.RestoreColors(state, look, -1, -1);
+  EXPECT_DOUBLE_EQ(model.Cell(SquareIndex(1, 0)).imageLeft, 300);
+  EXPECT_DOUBLE_EQ(model.Cell(SquareIndex(1, 0)).imageTop, 450);
+}
+
+TEST_F(Board, LeavesACentredPictureThatIsHalfATwipOff) {
+  look.ImagePositioning = 1;
+  model.SetPictureSize(SquarePicture::Light, {600, 600});
+  model.SetCellSide(1200);
+  model.ReCenterImages(look);
+  model.SetCellSide(1201);
+  model.ReCenterImages(look);
+  EXPECT_DOUBLE_EQ(model.Cell(SquareIndex(1, 0)).imageLeft, 300);
+  model.SetCellSide(1202);
+  model.ReCenterImages(look);
+  EXPECT_DOUBLE_EQ(model.Cell(SquareIndex(1, 0)).imageLeft, 301);
+}
+
+TEST_F(Board, StretchesAPictureOverItsCell) {
+  model.SetCellSide(1200);
+  model.ReCenterImages(look);
+  EXPECT_DOUBLE_EQ(model.Cell(3).imageLeft, 0);
+  EXPECT_DOUBLE_EQ(model.Cell(3).imageWidth, 1200);
+  EXPECT_DOUBLE_EQ(model.Cell(3).imageHeight, 1200);
+}

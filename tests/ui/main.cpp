@@ -1,0 +1,12 @@
+#include <QApplication>
+#include <gtest/gtest.h>
+
+// The windows are driven offscreen, whatever desktop the tests are started from.
+int main(int argumentCount, char* arguments[]) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qunsetenv("QT_QPA_PLATFORMTHEME");
+  qunsetenv("XDG_CURRENT_DESKTOP");
+  testing::InitGoogleTest(&argumentCount, arguments);
+  const QApplication application(argumentCount, arguments);
+  return RUN_ALL_TESTS();
+}

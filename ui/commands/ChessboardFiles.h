@@ -1,0 +1,6 @@
+#pragma once
+
+#include "ui/commands/CommandContext.h"
+
+void mnuEditChessboardOpen_Click(const CommandContext& context);
+void mnuEditChessboardSave_Click(const CommandContext& context);

@@ -1,0 +1,3 @@
+#include "ui/commands/CommandHistory.h"
+
+void mnuEditHistory_Click(const CommandContext&) {}

@@ -1,0 +1,5 @@
+#pragma once
+
+#include "ui/commands/CommandContext.h"
+
+void mnuEditHistory_Click(const CommandContext& context);

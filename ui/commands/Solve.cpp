@@ -1,0 +1,3 @@
+#include "ui/commands/Solve.h"
+
+void mnuFileSolve_Click(const CommandContext&) {}
