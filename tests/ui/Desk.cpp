@@ -6,18 +6,16 @@
 #include <QDialog>
 #include <QFile>
 #include <QTest>
+#include <QTimer>
 
 #include "ui/board/BoardView.h"
 
 Desk::Desk() {
   globals.ProgramDirectory = directory_.path() + "/";
-  QObject::connect(&lookOut_, &QTimer::timeout, &lookOut_, [this] { LookForModal(); });
-  lookOut_.start(0);
+  LookOut();
 }
 
-Desk::~Desk() {
-  lookOut_.stop();
-}
+Desk::~Desk() = default;
 
 void Desk::Open(const QString& settings, const QString& commandLine) {
   if (!settings.isEmpty()) {
@@ -34,13 +32,20 @@ bool Desk::Close() {
   return window_->close();
 }
 
+// Asked for anew before each look: a visit may open a window of its own and wait in it.
+void Desk::LookOut() {
+  QTimer::singleShot(1, &lookOut_, [this] {
+    LookOut();
+    LookForModal();
+  });
+}
+
 void Desk::LookForModal() {
+  visited_.removeIf(
+      [](const QPointer<QWidget>& window) { return !window || !window->isVisible(); });
   QWidget* modal = QApplication::activeModalWidget();
-  if (modal == nullptr || modal == visited_) {
-    if (modal == nullptr) visited_ = nullptr;
-    return;
-  }
-  visited_ = modal;
+  if (modal == nullptr || visited_.contains(modal)) return;
+  visited_.append(modal);
   if (visits_.empty()) {
     ADD_FAILURE() << "an unexpected window: " << modal->windowTitle().toStdString();
     modal->close();

@@ -6,8 +6,8 @@
 #include <stdexcept>
 
 #include <QMessageBox>
+#include <QPointer>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "app/Globals.h"
@@ -47,13 +47,14 @@ class Desk : public testing::Test {
   Globals globals;
 
  private:
+  void LookOut();
   void LookForModal();
 
   QTemporaryDir directory_;
   std::unique_ptr<frmGame> window_;
   std::deque<Visit> visits_;
-  QWidget* visited_ = nullptr;
-  QTimer lookOut_;
+  QList<QPointer<QWidget>> visited_;
+  QObject lookOut_;
 };
 
 // A child by its object name; fails the test when there is none.
