@@ -1,0 +1,112 @@
+#include "ui/commands/GameFiles.h"
+
+#include "storage/FileWriter.h"
+#include "storage/GameFile.h"
+#include "ui/commands/Replay.h"
+
+namespace {
+
+const QString GameFilter =
+    "Gallopade Nova Games (*.knight;*.kni)|*.knight;*.kni|All Files (*.*)|*.*";
+
+// Empty when the player cancelled.
+QString ChooseGame(const CommandContext& context) {
+  QString& directory = context.globals.settings.PreviousDirectory;
+  const QString fileName = context.dialogs.OpenFile({directory, GameFilter});
+  if (!fileName.isEmpty()) directory = DirectoryOf(fileName);
+  return fileName;
+}
+
+void ClearBoard(const CommandContext& context) {
+  GameState& state = context.state;
+  ++state.GameSerial;
+  context.game.ClearRedo();
+  state.MoveCount = 0;
+  state.Board.fill(GameState::Unvisited);
+  for (std::size_t row = 0; row < SquareCount; ++row) state.MoveList[row] = EmptyMove;
+  state.GameStartingPosition = 0;
+  state.FirstMoveMade = true;
+}
+
+void SetClock(const CommandContext& context, const GameFile& file) {
+  context.state.ElapsedHalfSeconds = file.elapsedHalfSeconds - 1;
+  context.game.tmrTime_Timer();
+  context.state.NoScoreGame = file.noScoreGame;
+}
+
+// The board is seen filling; whoever wants to close the window need not wait for it.
+void ApplyMoves(const CommandContext& context, const GameFile& file) {
+  const WorkScope work(context.window);
+  context.state.ApplyingMoves = true;
+  if (file.hasClock) SetClock(context, file);
+  for (const MoveRow& move : file.moves) {
+    context.game.ValidMove(move.x, move.y);
+    if (!context.window.IsCloseRequested()) context.window.DoEvents();
+  }
+  context.state.CursorX = context.state.KnightX;
+  context.state.CursorY = context.state.KnightY;
+  context.state.ApplyingMoves = false;
+}
+
+// The game that was to be opened is lost half-way, so a new one begins without a question.
+void ReportFailure(const CommandContext& context, const GameFileFailure& failure) {
+  context.window.Tell("Sorry...", FailureText(failure).toStdString(), MessageIcon::Exclamation);
+  context.game.StartNewGame();
+}
+
+bool WantsReplay(const CommandContext& context, bool replaying, bool over) {
+  if (replaying || !over) return replaying;
+  return context.window.Ask("Game Over",
+                            "This game is over. Do you want to watch a replay of it instead?");
+}
+
+void GoOnWithLoadedGame(const CommandContext& context, bool replaying) {
+  const bool over = context.game.CheckIfGameOver(context.state.KnightX, context.state.KnightY);
+  if (over) {
+    context.state.NoScoreGame = true;
+    context.game.DisablePlayOn();
+  } else if (!replaying) {
+    context.window.SetMenuEnabled(MenuEntry::mnuFileSaveReplay, false);
+    context.window.EnableClock(true);
+  }
+  if (context.window.IsCloseRequested()) return;
+  if (WantsReplay(context, replaying, over)) mnuViewReplay_Click(context);
+}
+
+}  // namespace
+
+void LoadGame(const CommandContext& context, const LoadRequest& request) {
+  const bool wasRunning = context.game.DoTiming();
+  const bool mayLoad =
+      !context.game.GameInProgress() ||
+      context.window.Ask("Open Game?",
+                         "Your current game is not finished. Do you want to open a game?");
+  const QString fileName = !mayLoad          ? QString()
+                           : request.NoCdlog ? request.NoCdlogFilename
+                                             : ChooseGame(context);
+  if (fileName.isEmpty()) {
+    context.window.EnableClock(wasRunning);
+    return;
+  }
+  const GameFile file = ReadGameFile(fileName);
+  ClearBoard(context);
+  ApplyMoves(context, file);
+  if (file.failure) {
+    ReportFailure(context, *file.failure);
+  } else {
+    GoOnWithLoadedGame(context, request.Replaying);
+  }
+}
+
+void SaveGame(const CommandContext& context) {
+  const ClockPause pause(context);
+  QString& directory = context.globals.settings.PreviousDirectory;
+  const QString fileName = context.dialogs.SaveFile({directory, GameFilter});
+  if (fileName.isEmpty()) return;
+  directory = DirectoryOf(fileName);
+  if (const auto error = WriteFile(fileName, FormatGame(context.state))) {
+    const QString text =
+        "Your file was not saved due to the following error:\n" + ErrorText(*error);
+    context.window.Tell("Sorry...", text.toStdString(), MessageIcon::Exclamation);
+  }
+}
