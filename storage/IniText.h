@@ -1,0 +1,25 @@
+#pragma once
+
+#include <vector>
+
+#include <QByteArray>
+#include <QString>
+
+// The dialect of all key/value files, over their bytes: "[section]" lines, "key=value" lines, ";"
+// comments. Names are compared without case, and the first match wins, of sections as of keys.
+// Bytes are UTF-8; a text that is not valid UTF-8 is read as Windows-1252.
+
+struct IniEntry {
+  QString section;
+  QString key;
+  QString value;
+};
+
+// The value without blanks around it and without one pair of quotes, at most 255 characters of it;
+// empty when there is none.
+QString FindIniValue(const QByteArray& text, const QString& section, const QString& key);
+
+// The text with the entries put in, in their order. Every other line stays as it is, byte for byte.
+// A value comes back from FindIniValue as it was given, except that a line break becomes a blank
+// and what passes 255 characters is not read.
+QByteArray ReplaceIniValues(QByteArray text, const std::vector<IniEntry>& entries);

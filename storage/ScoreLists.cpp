@@ -1,0 +1,115 @@
+#include "storage/ScoreLists.h"
+
+#include <algorithm>
+
+#include "core/Game.h"
+#include "core/NumberText.h"
+#include "storage/IniStore.h"
+#include "storage/NumberParser.h"
+
+namespace {
+
+constexpr int RowCount = static_cast<int>(std::tuple_size_v<ScoreRows>);
+
+// "Name 1" .. "Name 10".
+QString KeyOf(const char* column, std::size_t row) {
+  return column + QString::fromStdString(NumberText(static_cast<std::int64_t>(row) + 1));
+}
+
+QString TextOfTime(std::int32_t halfSeconds) {
+  return QString::fromStdString(TimeString(halfSeconds));
+}
+
+ScoreRow ReadRow(const QByteArray& text, const QString& section, std::size_t row) {
+  const auto find = [&](const char* column) {
+    return FindIniValue(text, section, KeyOf(column, row));
+  };
+  const QString time = find("Time");
+  const std::int32_t halfSeconds = LenientInt32(time);
+  return {find("Name"), find("Moves"), time.isEmpty() ? QString() : TextOfTime(halfSeconds),
+          halfSeconds};
+}
+
+ScoreRows RowsFromText(const QByteArray& text, const QString& section) {
+  ScoreRows rows;
+  for (std::size_t row = 0; row < rows.size(); ++row) rows[row] = ReadRow(text, section, row);
+  return rows;
+}
+
+const ScoreRow& RowAt(const ScoreRows& rows, int place) {
+  return rows[static_cast<std::size_t>(place)];
+}
+
+int MovesAt(const ScoreRows& rows, int place) {
+  return LenientInt32(RowAt(rows, place).moves);
+}
+
+int PlaceInLowList(const ScoreRows& rows, const OfferedGame& game) {
+  int place = 0;
+  while (place < RowCount && MovesAt(rows, place) > 0 && MovesAt(rows, place) < game.totalMoves) {
+    ++place;
+  }
+  while (place < RowCount && MovesAt(rows, place) == game.totalMoves &&
+         RowAt(rows, place).time <= game.totalTime) {
+    ++place;
+  }
+  return place;
+}
+
+int PlaceInHighList(const ScoreRows& rows, const OfferedGame& game) {
+  int place = RowCount;
+  while (place > 0 && MovesAt(rows, place - 1) < game.totalMoves) --place;
+  while (place > 0 && MovesAt(rows, place - 1) == game.totalMoves &&
+         RowAt(rows, place - 1).time > game.totalTime) {
+    --place;
+  }
+  return place;
+}
+
+}  // namespace
+
+QString ScoreSection(bool highScore) {
+  return highScore ? "High Scores" : "Low Scores";
+}
+
+ScoreRows ReadScores(const QString& pathName, const QString& section) {
+  return RowsFromText(ReadIniStore(pathName).bytes, section);
+}
+
+int InsertionPlace(const ScoreRows& rows, const OfferedGame& game) {
+  return game.highScore ? PlaceInHighList(rows, game) : PlaceInLowList(rows, game);
+}
+
+void InsertScore(ScoreRows& rows, int place, const ScoreRow& row) {
+  const auto begin = rows.begin() + place;
+  std::rotate(begin, rows.end() - 1, rows.end());
+  *begin = row;
+}
+
+ScoreRow RowOf(const OfferedGame& game, const QString& name) {
+  return {name, QString::number(game.totalMoves), TextOfTime(game.totalTime), game.totalTime};
+}
+
+std::vector<IniEntry> ScoreEntries(const QString& section, const ScoreRows& rows) {
+  std::vector<IniEntry> entries;
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    const bool isTimed = !rows[row].timeText.isEmpty();
+    entries.push_back({section, KeyOf("Name", row), rows[row].name});
+    entries.push_back({section, KeyOf("Moves", row), rows[row].moves});
+    entries.push_back(
+        {section, KeyOf("Time", row), isTimed ? QString::number(rows[row].time) : QString()});
+  }
+  return entries;
+}
+
+std::optional<ProgramError> SaveScore(const QString& pathName, const OfferedGame& game,
+                                      const QString& name) {
+  const QString section = ScoreSection(game.highScore);
+  return UpdateIniStore(pathName, [&](const QByteArray& text) {
+    ScoreRows rows = RowsFromText(text, section);
+    const int place = InsertionPlace(rows, game);
+    if (place == RowCount) return std::vector<IniEntry>();
+    InsertScore(rows, place, RowOf(game, name));
+    return ScoreEntries(section, rows);
+  });
+}

@@ -1,0 +1,143 @@
+#include "storage/Settings.h"
+
+#include <array>
+#include <charconv>
+#include <initializer_list>
+
+#include "storage/NumberParser.h"
+#include "storage/SettingsTable.h"
+
+namespace {
+
+constexpr double SlowestAdvance = 20.0;
+
+// Empty when there is none.
+QString Read(const clsIniFile& iniFile, const QString& pathName, const char* section,
+             const char* key) {
+  QString value;
+  QString ignoredError;
+  iniFile.ReadIniFileValue(pathName, section, key, value, ignoredError);
+  return value;
+}
+
+std::optional<double> ReadTwips(const clsIniFile& iniFile, const QString& pathName,
+                                const char* key) {
+  const QString text = Read(iniFile, pathName, "Settings", key);
+  if (text.isEmpty()) return std::nullopt;
+  return LenientNumber(text);
+}
+
+QString TextOfTwips(double twips) {
+  std::array<char, 400> text{};  // the longest double without an exponent has 327 characters
+  const auto end =
+      std::to_chars(text.data(), text.data() + text.size(), twips, std::chars_format::fixed).ptr;
+  return QString::fromLatin1(text.data(), end - text.data());
+}
+
+void Append(std::vector<IniEntry>& entries, const Settings& settings,
+            std::initializer_list<const char*> keys) {
+  for (const char* key : keys) {
+    const SettingRow& row = SettingOf(key);
+    entries.push_back({row.section, row.key, TextOf(row, settings)});
+  }
+}
+
+void AppendPlacement(std::vector<IniEntry>& entries, const WindowPlacement& placement,
+                     bool minimised) {
+  const auto append = [&entries](const char* key, const std::optional<double>& twips) {
+    if (twips) entries.push_back({"Settings", key, TextOfTwips(*twips)});
+  };
+  if (!minimised) entries.push_back({"Settings", "State", QString::number(placement.State)});
+  append("Left", placement.Left);
+  append("Top", placement.Top);
+  append("Height", placement.Height);
+  append("Width", placement.Width);
+}
+
+}  // namespace
+
+void LoadSettings(const clsIniFile& iniFile, const QString& pathName,
+                  const QString& programDirectory, Settings& settings) {
+  for (const SettingRow& row : SettingsTable()) {
+    SetFromText(row, Read(iniFile, pathName, row.section, row.key), programDirectory, settings);
+  }
+}
+
+WindowPlacement ReadWindowPlacement(const clsIniFile& iniFile, const QString& pathName) {
+  return {.Left = ReadTwips(iniFile, pathName, "Left"),
+          .Top = ReadTwips(iniFile, pathName, "Top"),
+          .Height = ReadTwips(iniFile, pathName, "Height"),
+          .Width = ReadTwips(iniFile, pathName, "Width"),
+          .State = LenientInt32(Read(iniFile, pathName, "Settings", "State"))};
+}
+
+std::vector<IniEntry> ExitEntries(const Settings& settings, const WindowPlacement& placement,
+                                  bool minimised) {
+  std::vector<IniEntry> entries;
+  Append(entries, settings, {"Previous Directory", "Preferences Previous Directory"});
+  AppendPlacement(entries, placement, minimised);
+  Append(entries, settings, {"Show Time", "Show Score", "Solve Refresh"});
+  return entries;
+}
+
+std::vector<IniEntry> PreferencesEntries(const Settings& settings) {
+  std::vector<IniEntry> entries;
+  Append(entries, settings,
+         {"Starting Position",
+          "Starting X",
+          "Starting Y",
+          "Light Color",
+          "Dark Color",
+          "Visited Color",
+          "Knight Color",
+          "Light Image",
+          "Dark Image",
+          "Visited Image",
+          "Knight Image",
+          "Use Images",
+          "Image Positioning",
+          "Use Borders",
+          "Highlight Color",
+          "Highlight Image",
+          "Highlighting Method",
+          "Corner Distance",
+          "Chessboard Background Color",
+          "Chessboard Background Image",
+          "Show Solve Warnings",
+          "Preferences Previous Directory"});
+  return entries;
+}
+
+std::vector<IniEntry> SessionEntries(const Settings& settings) {
+  std::vector<IniEntry> entries;
+  Append(entries, settings, {"Previous Directory", "Show Time", "Show Score", "Solve Refresh"});
+  return entries;
+}
+
+std::vector<IniEntry> ChessboardEntries(const Settings& settings) {
+  std::vector<IniEntry> entries;
+  Append(entries, settings,
+         {"Light Color", "Dark Color", "Visited Color", "Knight Color", "Light Image", "Dark Image",
+          "Visited Image", "Knight Image", "Use Images", "Image Positioning", "Use Borders",
+          "Highlight Color", "Highlight Image", "Chessboard Background Color",
+          "Chessboard Background Image", "Corner Distance"});
+  return entries;
+}
+
+ReplaySettings ReadReplaySettings(const clsIniFile& iniFile, const QString& pathName) {
+  ReplaySettings replay;
+  const QString speed = Read(iniFile, pathName, "Replay", "Advance Speed");
+  const double number = LenientNumber(speed);
+  if (!speed.isEmpty() && number >= 0.0 && number <= SlowestAdvance) replay.AdvanceSpeed = speed;
+  replay.manual = LenientNumber(Read(iniFile, pathName, "Replay", "Advancement")) != 0.0;
+  return replay;
+}
+
+std::vector<IniEntry> ReplayEntries(const ReplaySettings& replay) {
+  return {{"Replay", "Advance Speed", replay.AdvanceSpeed},
+          {"Replay", "Advancement", replay.manual ? "1" : "0"}};
+}
+
+QString DirectoryOf(const QString& pathName) {
+  return pathName.left(pathName.lastIndexOf('/') + 1);
+}

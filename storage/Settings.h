@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include <QString>
+
+#include "core/GameState.h"
+#include "storage/BoardLook.h"
+#include "storage/IniText.h"
+#include "storage/clsIniFile.h"
+
+// All lasting preferences. The values given here are the defaults; those of the two directories are
+// the program directory.
+struct Settings : GameOptions, BoardLook {
+  // Where file dialogs begin: those of games and move lists, and those of pictures and chessboards.
+  // Both end in "/".
+  QString PreviousDirectory;
+  QString PreferencesPreviousDirectory;
+  QString ScoresImage = "Scores.gif";
+  QString AboutImage = "About.gif";
+  bool ShowSolveWarnings = true;
+  // How many steps of the search pass between two drawings of the board.
+  std::int16_t SolveRefreshRate = 1000;
+  int CornerDistance = 240;  // twips
+  QString LightImage = "Wood Light.gif";
+  QString DarkImage = "Wood Dark.gif";
+  QString VisitedImage = "Wood Visited.gif";
+  QString KnightImage = "Wood Knight.gif";
+  QString HighlightImage = "Wood Highlight.gif";
+  QString ChessboardBackgroundImage = "Wood Chessboard.gif";
+  Color ChessboardBackgroundColor = SystemColor(0x0F);
+};
+
+// Bounds of the main window in its normal state, in twips; what is missing is the window's choice.
+struct WindowPlacement {
+  std::optional<double> Left = std::nullopt;
+  std::optional<double> Top = std::nullopt;
+  std::optional<double> Height = std::nullopt;
+  std::optional<double> Width = std::nullopt;
+  int State = 0;  // 0 = normal, 2 = maximised
+};
+
+// Reads every setting afresh; one that is missing, empty or out of its range takes its default.
+// programDirectory ends in "/".
+void LoadSettings(const clsIniFile& iniFile, const QString& pathName,
+                  const QString& programDirectory, Settings& settings);
+
+WindowPlacement ReadWindowPlacement(const clsIniFile& iniFile, const QString& pathName);
+
+// What is written when the program ends; a minimised window leaves the stored state alone.
+std::vector<IniEntry> ExitEntries(const Settings& settings, const WindowPlacement& placement,
+                                  bool minimised);
+
+// What the preferences dialog decides.
+std::vector<IniEntry> PreferencesEntries(const Settings& settings);
+
+// What changes outside the preferences dialog, apart from the window's place: without it, reading
+// the settings afresh would lose what the player changed since the start.
+std::vector<IniEntry> SessionEntries(const Settings& settings);
+
+// What a chessboard file holds.
+std::vector<IniEntry> ChessboardEntries(const Settings& settings);
+
+struct ReplaySettings {
+  QString AdvanceSpeed = "5";  // tenths of a second a move, kept as the text that was read
+  bool manual = false;
+};
+
+ReplaySettings ReadReplaySettings(const clsIniFile& iniFile, const QString& pathName);
+std::vector<IniEntry> ReplayEntries(const ReplaySettings& replay);
+
+// The directory of a file as settings keep it, ending in "/".
+QString DirectoryOf(const QString& pathName);
