@@ -58,9 +58,12 @@ class Desktop:
             except ProcessLookupError:
                 pass
             process.wait()
+            if process.stdout:
+                process.stdout.close()
         shutil.rmtree(self.folder, ignore_errors=True)
 
     def _start(self, command, **options):
+        options.setdefault("stdout", subprocess.DEVNULL)
         process = subprocess.Popen(
             command, env=self.environment, stderr=subprocess.DEVNULL, start_new_session=True,
             **options)
@@ -119,7 +122,7 @@ class Desktop:
 
     def close(self, window):
         """As the close box of the window manager does."""
-        self.run("xdotool", "windowclose", window)
+        self.run("wmctrl", "-i", "-c", window)
 
     def screenshot(self, path):
         self.run("import", "-window", "root", str(path))

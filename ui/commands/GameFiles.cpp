@@ -2,6 +2,7 @@
 
 #include "storage/FileWriter.h"
 #include "storage/GameFile.h"
+#include "storage/Settings.h"
 #include "ui/commands/Replay.h"
 
 namespace {

@@ -9,11 +9,6 @@ struct FileQuestion {
   QString filter;
 };
 
-// A path up to and including its last "/".
-inline QString DirectoryOf(const QString& pathName) {
-  return pathName.left(pathName.lastIndexOf('/') + 1);
-}
-
 // The toolkit's common dialogs behind a small interface, so that commands can be tested without
 // them.
 class Dialogs {

@@ -1,0 +1,104 @@
+"""A player's evening in a real window: play, save, close, reopen, and find everything again."""
+
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+from desktop import Desktop, copy_of_program, wait_for
+
+PROGRAM_DIRECTORY = None
+TITLE = "^Gallopade Nova"
+FRAME_PIXELS = 16
+MOVES = [(2, 1), (4, 0), (6, 1), (7, 3), (5, 2)]
+
+
+class Play(unittest.TestCase):
+    def setUp(self):
+        self.desktop = self.enterContext(Desktop())
+        self.folder = self.enterContext(tempfile.TemporaryDirectory())
+        self.program = copy_of_program(PROGRAM_DIRECTORY, self.folder) / "GallopadeNova"
+
+    def start(self, *arguments):
+        self.process = self.desktop.start_program(self.program, *arguments)
+        self.game = self.desktop.window(TITLE)
+        self.desktop.focus(self.game)
+
+    def caption_begins(self, text):
+        wait_for(lambda: self.desktop.title(self.game).startswith(text), f"the caption {text}")
+
+    def click_square(self, x, y):
+        left, top, width, height = self.desktop.geometry(self.game)
+        inner = width  # the inner area is square
+        side = (inner - 2 * FRAME_PIXELS) / 8
+        self.desktop.click(int(left + FRAME_PIXELS + (x + 0.5) * side),
+                           int(top + height - inner + FRAME_PIXELS + (y + 0.5) * side))
+
+    def play(self):
+        for number, (x, y) in enumerate(MOVES, 2):
+            self.click_square(x, y)
+            self.caption_begins(f"Gallopade Nova: {number} ")
+
+    def save_as(self, path):
+        self.desktop.press("ctrl+s")
+        self.desktop.window("^Save As$")
+        self.desktop.type(str(path))
+        self.desktop.press("Return")
+        wait_for(path.exists, "the saved game")
+
+    def close_with(self, answer):
+        self.desktop.close(self.game)
+        self.desktop.window(r"^Exit\?$")
+        self.desktop.press(answer)
+
+    def ended(self):
+        return self.process.poll() is not None
+
+    def test_a_saved_game_is_found_again(self):
+        saved = Path(self.folder) / "a game.knight"
+        self.start()
+        self.play()
+        self.save_as(saved)
+        self.close_with("alt+y")
+        wait_for(self.ended, "the program to end")
+        self.assertEqual(self.process.returncode, 0)
+
+        lines = saved.read_bytes().split(b"\r\n")
+        self.assertEqual(len(lines), 66)
+        self.assertEqual(lines[1:7], [b"0 0"] + [b"%d %d" % move for move in MOVES])
+        self.assertEqual(set(lines[7:65]), {b"-1 -1"})
+
+        self.start(saved)
+        self.caption_begins("Gallopade Nova: 6 ")
+        self.click_square(7, 0)  # not a knight's move away: nothing happens
+        self.click_square(7, 1)
+        self.caption_begins("Gallopade Nova: 7 ")
+
+    def test_the_window_stays_where_it_was(self):
+        self.start()
+        self.desktop.run("xdotool", "windowmove", "--sync", self.game, "137", "93")
+        place = wait_for(lambda: self.settled_geometry(), "the moved window")
+        for _ in range(10):
+            self.desktop.close(self.game)
+            wait_for(self.ended, "the program to end")
+            self.start()
+            self.assertEqual(wait_for(self.settled_geometry, "the window"), place)
+
+    def settled_geometry(self):
+        first = self.desktop.geometry(self.game)
+        return first if first == self.desktop.geometry(self.game) else None
+
+    def test_no_at_the_exit_question_keeps_the_game(self):
+        self.start()
+        self.play()
+        self.close_with("alt+n")
+        wait_for(lambda: not self.desktop.has_window(r"^Exit\?$"), "the question to go")
+        self.assertFalse(self.ended())
+        self.click_square(7, 0)
+        self.click_square(7, 1)
+        self.caption_begins("Gallopade Nova: 7 ")
+
+
+if __name__ == "__main__":
+    PROGRAM_DIRECTORY = Path(sys.argv.pop(1))
+    unittest.main()
