@@ -1,0 +1,36 @@
+#include "solver/Autoplay.h"
+
+#include "solver/TourMoves.h"
+
+namespace {
+
+void MoveAtRandom(Game& game, GameState& state, GameWindow& window, Random& random) {
+  const Offset offset = TourMoveOffsets[static_cast<std::size_t>(random.Below(8))];
+  const int x = state.KnightX + offset.dx;
+  const int y = state.KnightY + offset.dy;
+  if (!IsSquare(x, y) || state.Cell(x, y) != GameState::Unvisited) return;
+  game.ValidMove(x, y);
+  window.RestoreColors(-1, -1);
+  window.DoEvents();
+}
+
+}  // namespace
+
+void mnuFileAutoplay_Click(Game& game, GameState& state, GameWindow& window, Random& random) {
+  const WorkScope work(window);
+  state.NoScoreGame = true;
+  game.ClearRedo();
+  if (state.MoveCount == 0) {
+    game.MakeRandomStartingMove();
+    window.RestoreColors(-1, -1);
+  }
+  random.Reseed();
+  state.ApplyingMoves = true;
+  while (!game.CheckIfGameOver(state.KnightX, state.KnightY) && !window.IsCloseRequested()) {
+    MoveAtRandom(game, state, window, random);
+  }
+  state.ApplyingMoves = false;
+  window.EnableClock(false);
+  // A walk that was broken off leaves a game that can be played on.
+  if (game.CheckIfGameOver(state.KnightX, state.KnightY)) game.DisablePlayOn();
+}
