@@ -1,0 +1,286 @@
+// The help window on the real help file.
+
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "tests/ui/Desk.h"
+#include "ui/help/HelpPage.h"
+#include "ui/support/HelpKey.h"
+#include "ui/windows/frmHelp.h"
+
+namespace {
+
+constexpr const char* WindowsWithAPage[] = {
+    "frmGame",        "frmSolve", "frmReplay",   "frmHistory", "frmScores",
+    "frmPreferences", "frmAbout", "frmGameOver", "frmWin",     "frmHelp",
+};
+
+class Help : public testing::Test {
+ protected:
+  Help() : help(HELP_FILE_DIRECTORY) {}
+
+  QTextBrowser& Page() { return Child<QTextBrowser>(help, "helpPage"); }
+  QString PageName() { return Page().source().fileName(); }
+  QAction& Button(const char* name) {
+    auto* action = help.findChild<QAction*>(name);
+    if (action == nullptr) throw std::runtime_error(std::string("no button named ") + name);
+    return *action;
+  }
+  QStringList SearchFor(const QString& words) {
+    Child<QLineEdit>(help, "searchField").setText(words);
+    auto& results = Child<QListWidget>(help, "searchResults");
+    QStringList titles;
+    for (int row = 0; row < results.count(); ++row) titles << results.item(row)->text();
+    return titles;
+  }
+
+  frmHelp help;
+};
+
+class BrokenHelp : public testing::Test {
+ protected:
+  void Write(const QByteArray& contents) {
+    QFile file(directory.filePath("GallopadeNova.hlp"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(contents);
+  }
+  void ExpectMessage() {
+    frmHelp help(directory.path() + "/");
+    help.ShowContents();
+    help.ShowTopic("How to Play");
+    EXPECT_TRUE(help.isVisible());
+    EXPECT_TRUE(Child<QLabel>(help, "helpError")
+                    .text()
+                    .startsWith("The help file GallopadeNova.hlp could not be opened."));
+  }
+
+  QTemporaryDir directory;
+};
+
+}  // namespace
+
+TEST_F(Help, OpensAtItsContents) {
+  help.ShowContents();
+  EXPECT_TRUE(help.isVisible());
+  EXPECT_EQ(help.windowTitle(), "Gallopade Nova Help");
+  EXPECT_EQ(PageName(), "welcome.html");
+  EXPECT_TRUE(Page().toPlainText().startsWith("Welcome to Gallopade Nova"));
+}
+
+TEST_F(Help, OpensAtHowToPlay) {
+  help.ShowTopic("How to Play");
+  EXPECT_EQ(PageName(), "howtoplay.html");
+  EXPECT_TRUE(Page().toPlainText().contains("Visit all 64 squares"));
+}
+
+TEST_F(Help, HasAPageForEveryWindow) {
+  for (const char* window : WindowsWithAPage) {
+    help.ShowContents();
+    help.ShowTopic(window);
+    EXPECT_NE(PageName(), "welcome.html") << window;
+  }
+}
+
+TEST_F(Help, TellsKeywordsApartByCaseAndFallsBackToTheContents) {
+  help.ShowTopic("How to Play");
+  help.ShowTopic("HOW TO PLAY");
+  EXPECT_EQ(PageName(), "welcome.html");
+}
+
+TEST_F(Help, ShowsTheTreeOfContents) {
+  auto& tree = Child<QTreeView>(help, "helpContents");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return tree.model()->rowCount() > 5; }));
+  EXPECT_EQ(tree.model()->index(0, 0).data().toString(), "Welcome to Gallopade Nova");
+}
+
+TEST_F(Help, FollowsALinkAndGoesBackAndForward) {
+  help.ShowContents();
+  EXPECT_FALSE(Button("helpBack").isEnabled());
+  Page().setSource(QUrl("preferences.html#frame"));
+  EXPECT_EQ(Page().source().fragment(), "frame");
+  Button("helpBack").trigger();
+  EXPECT_EQ(PageName(), "welcome.html");
+  Button("helpForward").trigger();
+  EXPECT_EQ(PageName(), "preferences.html");
+  Button("helpHome").trigger();
+  EXPECT_EQ(PageName(), "welcome.html");
+}
+
+TEST_F(Help, OpensNothingOutsideOfItself) {
+  help.ShowContents();
+  for (const char* link : {"https://example.org/", "file:///etc/hostname", "no-such-page.html"}) {
+    Page().setSource(QUrl(link));
+    EXPECT_EQ(PageName(), "welcome.html") << link;
+  }
+}
+
+TEST_F(Help, KeepsItsPlaceItsPageAndItsZoomWhenClosed) {
+  help.ShowTopic("How to Play");
+  Button("helpZoomIn").trigger();
+  help.move(40, 50);
+  const QRect place = help.geometry();
+  const qreal size = Page().font().pointSizeF();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&help));
+  QTest::keyClick(&help, Qt::Key_Escape);
+  EXPECT_FALSE(help.isVisible());
+  help.show();
+  EXPECT_EQ(help.geometry(), place);
+  EXPECT_EQ(PageName(), "howtoplay.html");
+  EXPECT_EQ(Page().font().pointSizeF(), size);
+}
+
+TEST_F(Help, ZoomsWithinReason) {
+  for (int i = 0; i < 100; ++i) Button("helpZoomIn").trigger();
+  EXPECT_LE(Page().font().pointSizeF(), 40);
+  for (int i = 0; i < 100; ++i) Button("helpZoomOut").trigger();
+  EXPECT_GE(Page().font().pointSizeF(), 6);
+}
+
+TEST_F(Help, NarrowsItsIndexAndOpensAnEntry) {
+  auto& filter = Child<QLineEdit>(help, "indexFilter");
+  auto& list = Child<QListView>(help, "indexList");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return list.model()->rowCount() > 50; }));
+  const int all = list.model()->rowCount();
+  filter.setText("warnsd");
+  ASSERT_EQ(list.model()->rowCount(), 1);
+  QTest::keyClick(&filter, Qt::Key_Return);
+  EXPECT_EQ(PageName(), "tips.html");
+  filter.clear();
+  EXPECT_EQ(list.model()->rowCount(), all);
+}
+
+TEST_F(Help, FindsThePagesThatHaveAllTheWords) {
+  EXPECT_TRUE(SearchFor("caliphs").contains("A thousand years of tours"));
+  EXPECT_EQ(SearchFor("keyboard").first(), "The keyboard");
+  EXPECT_TRUE(SearchFor("caliphs printer").isEmpty());
+  EXPECT_TRUE(SearchFor("  ").isEmpty());
+}
+
+TEST_F(Help, OpensAPageThatWasFoundAtTheWord) {
+  SearchFor("caliphs");
+  QTest::keyClick(&Child<QLineEdit>(help, "searchField"), Qt::Key_Return);
+  EXPECT_EQ(PageName(), "tour-history.html");
+  EXPECT_EQ(Page().textCursor().selectedText(), "caliphs");
+}
+
+TEST_F(Help, NamesEveryControlForAScreenReader) {
+  help.ShowContents();
+  for (const char* name : {"helpPage", "helpContents", "helpSide", "indexFilter", "indexList",
+                           "searchField", "searchResults"}) {
+    EXPECT_FALSE(Child<QWidget>(help, name).accessibleName().isEmpty()) << name;
+  }
+}
+
+TEST_F(Help, CanBeUsedWhileADialogIsOpen) {
+  help.ShowContents();
+  QDialog dialog;
+  dialog.setModal(true);
+  dialog.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+  help.ShowTopic("How to Play");
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&help));
+  QTest::keyClick(help.windowHandle(), Qt::Key_Home, Qt::AltModifier);
+  EXPECT_EQ(PageName(), "welcome.html");
+}
+
+TEST_F(Help, StaysUsableWhenADialogOpensLater) {
+  help.ShowTopic("How to Play");
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&help));
+  QDialog dialog;
+  dialog.setModal(true);
+  dialog.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+  help.activateWindow();
+  QTest::keyClick(help.windowHandle(), Qt::Key_Home, Qt::AltModifier);
+  EXPECT_EQ(PageName(), "welcome.html");
+}
+
+TEST_F(Help, OutlivesTheDialogItWasOpenedFrom) {
+  {
+    QDialog dialog;
+    dialog.setModal(true);
+    dialog.show();
+    help.ShowTopic("How to Play");
+  }
+  help.ShowContents();
+  EXPECT_TRUE(help.isVisible());
+  EXPECT_EQ(PageName(), "welcome.html");
+}
+
+TEST_F(BrokenHelp, SaysSoWhenTheFileIsMissing) {
+  ExpectMessage();
+}
+
+TEST_F(BrokenHelp, SaysSoWhenTheFileIsEmpty) {
+  Write(QByteArray());
+  ExpectMessage();
+}
+
+TEST_F(BrokenHelp, SaysSoWhenTheFileIsSomethingElse) {
+  Write(QByteArray("This is no help at all.\n").repeated(1000));
+  ExpectMessage();
+}
+
+TEST_F(BrokenHelp, SaysSoWhenTheFileIsCutOff) {
+  QFile whole(QString(HELP_FILE_DIRECTORY) + "GallopadeNova.hlp");
+  ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+  Write(whole.read(whole.size() / 2));
+  ExpectMessage();
+}
+
+TEST_F(BrokenHelp, SaysSoWhenAFolderHasItsName) {
+  ASSERT_TRUE(QDir(directory.path()).mkdir("GallopadeNova.hlp"));
+  ExpectMessage();
+}
+
+class F1 : public testing::Test {
+ protected:
+  void OpenDialog(QWidget& dialog) {
+    dialog.setWindowModality(Qt::ApplicationModal);
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+  }
+
+  QStringList topics;
+  HelpKey key{[this](const QString& topic) { topics << topic; }};
+};
+
+TEST_F(F1, InADialogAsksForItsPage) {
+  QDialog dialog;
+  dialog.setObjectName("frmSolve");
+  QLineEdit field(&dialog);
+  OpenDialog(dialog);
+  QTest::keyClick(&field, Qt::Key_F1);
+  EXPECT_EQ(topics, QStringList("frmSolve"));
+}
+
+TEST_F(F1, InAMessageAsksForThePageOfTheWindowBelow) {
+  QDialog dialog;
+  dialog.setObjectName("frmPreferences");
+  QMessageBox message(&dialog);
+  OpenDialog(message);
+  QTest::keyClick(&message, Qt::Key_F1);
+  EXPECT_EQ(topics, QStringList("frmPreferences"));
+}
+
+TEST_F(F1, InADialogWithoutAPageAsksForTheContents) {
+  QDialog dialog;
+  OpenDialog(dialog);
+  QTest::keyClick(&dialog, Qt::Key_F1);
+  EXPECT_EQ(topics, QStringList(QString()));
+}
+
+TEST_F(F1, IsLeftAloneWhenNoDialogIsOpen) {
+  QWidget window;
+  window.setObjectName("frmGame");
+  window.show();
+  QTest::keyClick(&window, Qt::Key_F1);
+  EXPECT_TRUE(topics.isEmpty());
+}
