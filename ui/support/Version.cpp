@@ -1,0 +1,14 @@
+#include "ui/support/Version.h"
+
+#include <QCoreApplication>
+#include <QVersionNumber>
+
+Version ProgramVersion() {
+  const auto number = QVersionNumber::fromString(QCoreApplication::applicationVersion());
+  return {number.majorVersion(), number.minorVersion(), number.microVersion()};
+}
+
+QString ShortVersion() {
+  const Version version = ProgramVersion();
+  return QString("%1.%2").arg(version.major).arg(version.minor);
+}
