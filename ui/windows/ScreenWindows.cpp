@@ -1,6 +1,9 @@
 #include "ui/windows/ScreenWindows.h"
 
 #include "ui/windows/frmGame.h"
+#include "ui/windows/frmGameOver.h"
+#include "ui/windows/frmScores.h"
+#include "ui/windows/frmWin.h"
 
 void ScreenWindows::ShowSolve(int) {}
 
@@ -10,14 +13,27 @@ void ScreenWindows::ShowMoveHistory() {}
 
 void ScreenWindows::ShowCommandHistory() {}
 
-void ScreenWindows::ShowWin() {}
-
-GameOverAnswer ScreenWindows::ShowGameOver(const GameOverReport&) {
-  return GameOverAnswer::Undo;
+void ScreenWindows::ShowWin() {
+  frmWin window(&mainWindow_);
+  window.exec();
 }
 
-ScoresAnswer ScreenWindows::ShowScores(ScoreList, std::optional<FinishedGame>) {
-  return ScoresAnswer::Close;
+GameOverAnswer ScreenWindows::ShowGameOver(const GameOverReport& report) {
+  frmGameOver window(report, &mainWindow_);
+  window.exec();
+  return window.Answer();
+}
+
+ScoresAnswer ScreenWindows::ShowScores(ScoreList list, std::optional<FinishedGame> finished) {
+  frmScores window(mainWindow_.Context(), &mainWindow_);
+  const bool highScore = list == ScoreList::High;
+  if (highScore) {
+    window.LoadHigh();
+  } else {
+    window.LoadLow();
+  }
+  if (finished) window.SendScore(finished->moveCount, finished->elapsedHalfSeconds, highScore);
+  return static_cast<ScoresAnswer>(window.exec());
 }
 
 void ScreenWindows::ShowPreferences() {}

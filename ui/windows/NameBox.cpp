@@ -1,0 +1,26 @@
+#include "ui/windows/NameBox.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+
+// A player who comes back from another program, or from the box's own menu, has not left the box.
+void NameBox::focusInEvent(QFocusEvent* event) {
+  QLineEdit::focusInEvent(event);
+  if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) {
+    return;
+  }
+  selectAll();
+  // The press of the mouse that is still to come would undo it.
+  if (event->reason() == Qt::MouseFocusReason) {
+    QMetaObject::invokeMethod(this, &NameBox::selectAll, Qt::QueuedConnection);
+  }
+}
+
+void NameBox::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+    QLineEdit::keyPressEvent(event);
+    return;
+  }
+  event->accept();
+  if (!event->isAutoRepeat()) emit Entered();
+}

@@ -1,0 +1,100 @@
+#include "ui/windows/ScoreTable.h"
+
+#include <algorithm>
+
+#include <QGridLayout>
+#include <QPainter>
+
+namespace {
+
+enum Column { Numbers, Names, Moves, Times };
+
+constexpr int Padding = 12;
+constexpr int ColumnGap = 14;
+constexpr int RowGap = 7;
+constexpr double CornerRadius = 4;
+constexpr double Opacity = 0.88;
+constexpr double LineOpacity = 0.3;
+
+constexpr Qt::Alignment AlignmentOf(int column) {
+  return Qt::AlignVCenter | (column == Names ? Qt::AlignLeft : Qt::AlignRight);
+}
+
+}  // namespace
+
+ScoreTable::ScoreTable(QWidget* parent) : QWidget(parent), grid_(new QGridLayout(this)) {
+  QFont arial = font();
+  arial.setFamily("Arial");
+  setFont(arial);
+  grid_->setContentsMargins(Padding, Padding, Padding, Padding);
+  grid_->setHorizontalSpacing(ColumnGap);
+  grid_->setVerticalSpacing(RowGap);
+
+  AddLabel("lblNamesTitle", 0, Names)->setText("Names");
+  AddLabel("lblMovesTitle", 0, Moves)->setText("Moves");
+  AddLabel("lblTimesTitle", 0, Times)->setText("Times");
+  int line = 1;
+  for (Row& row : rows_) {
+    row = {AddLabel("lblNumbers", line, Numbers), AddLabel("lblNames", line, Names),
+           AddLabel("lblMoves", line, Moves), AddLabel("lblTimes", line, Times)};
+    ++line;
+  }
+  lblNoScoresYet_ = AddLabel("lblNoScoresYet", 1, Names);
+  lblNoScoresYet_->setText("No Scores Yet");
+  SetColumnWidths();
+}
+
+ElidedLabel* ScoreTable::AddLabel(const char* name, int line, int column) {
+  auto* label = new ElidedLabel(this);
+  label->setObjectName(name);
+  label->setForegroundRole(QPalette::Text);
+  label->setAlignment(AlignmentOf(column));
+  grid_->addWidget(label, line, column);
+  return label;
+}
+
+// Wide enough for what games bring; only the names take what is left.
+void ScoreTable::SetColumnWidths() {
+  const auto width = [this](const char* text) { return fontMetrics().horizontalAdvance(text); };
+  grid_->setColumnMinimumWidth(Numbers, width("10."));
+  grid_->setColumnMinimumWidth(Names, width("A Name of Some Length"));
+  grid_->setColumnMinimumWidth(Moves, width("Moves"));
+  grid_->setColumnMinimumWidth(Times, width("000:00:00.0"));
+  grid_->setColumnStretch(Names, 1);
+}
+
+void ScoreTable::SetRed(int row, bool red) {
+  QPalette colors;
+  if (red) colors.setColor(QPalette::Text, Qt::red);
+  for (ElidedLabel* label : At(row).All()) label->setPalette(colors);
+}
+
+QRect ScoreTable::NamePlace(int row) const {
+  grid_->activate();
+  return At(row).lblNames->geometry();
+}
+
+std::optional<int> ScoreTable::RowOf(const QWidget* label) const {
+  for (std::size_t row = 0; row < rows_.size(); ++row) {
+    const auto labels = rows_[row].All();
+    if (std::find(labels.begin(), labels.end(), label) != labels.end()) {
+      return static_cast<int>(row);
+    }
+  }
+  return std::nullopt;
+}
+
+void ScoreTable::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  QColor ground = palette().color(QPalette::Base);
+  ground.setAlphaF(Opacity);
+  painter.setBrush(ground);
+  painter.drawRoundedRect(rect(), CornerRadius, CornerRadius);
+
+  QColor line = palette().color(QPalette::Text);
+  line.setAlphaF(LineOpacity);
+  const int y = grid_->cellRect(0, 0).bottom() + RowGap / 2;
+  painter.fillRect(Padding, y, width() - 2 * Padding, 1, line);
+}

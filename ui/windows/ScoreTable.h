@@ -1,0 +1,47 @@
+#pragma once
+
+#include <array>
+#include <optional>
+
+#include <QWidget>
+
+#include "storage/ScoreLists.h"
+#include "ui/support/ElidedLabel.h"
+
+class QGridLayout;
+
+// The ten rows of a score list under their titles, on a ground that lets the picture behind it
+// shine through a little and keeps its text legible.
+class ScoreTable : public QWidget {
+ public:
+  // The labels of one row.
+  struct Row {
+    ElidedLabel* lblNumbers;
+    ElidedLabel* lblNames;
+    ElidedLabel* lblMoves;
+    ElidedLabel* lblTimes;
+
+    std::array<ElidedLabel*, 4> All() const { return {lblNumbers, lblNames, lblMoves, lblTimes}; }
+  };
+
+  explicit ScoreTable(QWidget* parent);
+
+  const Row& At(int row) const { return rows_[static_cast<std::size_t>(row)]; }
+  void SetRed(int row, bool red);
+  void ShowNoScoresYet(bool shown) { lblNoScoresYet_->setVisible(shown); }
+  // Where the name of a row stands.
+  QRect NamePlace(int row) const;
+  // The row that a widget is a label of, if it is one.
+  std::optional<int> RowOf(const QWidget* label) const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  ElidedLabel* AddLabel(const char* name, int line, int column);
+  void SetColumnWidths();
+
+  QGridLayout* grid_;
+  std::array<Row, std::tuple_size_v<ScoreRows>> rows_{};
+  ElidedLabel* lblNoScoresYet_;
+};

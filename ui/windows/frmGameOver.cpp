@@ -1,0 +1,69 @@
+#include "ui/windows/frmGameOver.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+
+#include "ui/support/WindowPlacing.h"
+
+namespace {
+
+constexpr int IconSide = 48;
+constexpr int Margin = 18;
+constexpr int MessageWidth = 260;
+
+QIcon Symbol(const QWidget& window) {
+  const QIcon own = window.windowIcon();
+  return own.isNull() ? window.style()->standardIcon(QStyle::SP_MessageBoxInformation) : own;
+}
+
+}  // namespace
+
+frmGameOver::frmGameOver(const GameOverReport& report, QWidget* mainWindow)
+    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint) {
+  setObjectName("frmGameOver");
+  setWindowTitle("Game Over...");
+
+  auto* imgIcon = new QLabel(this);
+  imgIcon->setObjectName("imgIcon");
+  imgIcon->setPixmap(Symbol(*this).pixmap(QSize(IconSide, IconSide), devicePixelRatioF()));
+  auto* lblMessage = new QLabel(QString::fromStdString(report.message), this);
+  lblMessage->setObjectName("lblMessage");
+  lblMessage->setTextFormat(Qt::PlainText);
+  lblMessage->setWordWrap(true);
+  lblMessage->setMinimumWidth(MessageWidth);
+
+  auto* cmdScoresReplay = new QPushButton(QString::fromStdString(report.buttonCaption), this);
+  cmdScoresReplay->setObjectName("cmdScoresReplay");
+  cmdScoresReplay->setDefault(true);
+  connect(cmdScoresReplay, &QPushButton::clicked, this, &frmGameOver::cmdScoresReplay_Click);
+  auto* cmdUndo = new QPushButton("&Undo Last Move", this);
+  cmdUndo->setObjectName("cmdUndo");
+  connect(cmdUndo, &QPushButton::clicked, this, &frmGameOver::cmdUndo_Click);
+
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(cmdScoresReplay);
+  buttons->addWidget(cmdUndo);
+  auto* layout = new QGridLayout(this);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+  layout->setContentsMargins(Margin, Margin, Margin, Margin);
+  layout->setHorizontalSpacing(Margin);
+  layout->setVerticalSpacing(Margin);
+  layout->addWidget(imgIcon, 0, 0, Qt::AlignTop);
+  layout->addWidget(lblMessage, 0, 1, Qt::AlignVCenter);
+  layout->addLayout(buttons, 1, 0, 1, 2);
+  cmdScoresReplay->setFocus();
+  PlaceDialog(*this, *mainWindow);
+}
+
+void frmGameOver::cmdScoresReplay_Click() {
+  answer_ = GameOverAnswer::MainButton;
+  accept();
+}
+
+void frmGameOver::cmdUndo_Click() {
+  answer_ = GameOverAnswer::Undo;
+  accept();
+}

@@ -1,0 +1,252 @@
+#include "ui/windows/frmScores.h"
+
+#include <algorithm>
+#include <tuple>
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "core/NumberText.h"
+#include "ui/support/CoverPicture.h"
+#include "ui/support/Pictures.h"
+#include "ui/support/WindowPlacing.h"
+#include "ui/windows/NameBox.h"
+#include "ui/windows/ScoreTable.h"
+
+namespace {
+
+constexpr int RowCount = static_cast<int>(std::tuple_size_v<ScoreRows>);
+const QString NoName = "Enter Your Name";
+
+// The picture is shown at half its size, the table within its frame.
+constexpr QSize PictureSize(520, 390);
+constexpr int FrameWidth = 40;
+constexpr int ButtonMargin = 10;
+// The box is wider than its text, and begins a little before the name under it.
+constexpr int BoxMargin = 18;
+constexpr int BoxIndent = 6;
+
+static_assert(static_cast<int>(ScoresAnswer::Close) == QDialog::Rejected);
+
+constexpr std::size_t Index(int row) {
+  return static_cast<std::size_t>(row);
+}
+
+QString RowNumber(int row) {
+  return QString::fromStdString(NumberText(row + 1)) + ".";
+}
+
+// Large letters need a larger table; the picture then grows with it.
+double ScaleFor(const QSize& table) {
+  const QSize room = PictureSize - QSize(2 * FrameWidth, 2 * FrameWidth);
+  return std::max({1.0, 1.0 * table.width() / room.width(), 1.0 * table.height() / room.height()});
+}
+
+}  // namespace
+
+frmScores::frmScores(const CommandContext& context, QWidget* mainWindow)
+    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      context_(context),
+      pathName_(context.globals.ProgramDirectory + "Scores.dat") {
+  setObjectName("frmScores");
+  auto* layout = new QVBoxLayout(this);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  AddBackground();
+  layout->addWidget(picBackground_);
+  AddNameBox();
+  layout->addLayout(AddButtons());
+  PlaceDialog(*this, *mainWindow);
+}
+
+void frmScores::AddBackground() {
+  picBackground_ = new CoverPicture(this);
+  picBackground_->setObjectName("picBackground");
+  const Globals& globals = context_.globals;
+  picBackground_->SetPicture(LoadPicture(globals.settings.ScoresImage, globals.ProgramDirectory));
+  table_ = new ScoreTable(picBackground_);
+  const double scale = ScaleFor(table_->sizeHint());
+  picBackground_->setFixedSize(PictureSize * scale);
+  const int frame = qRound(FrameWidth * scale);
+  auto* layout = new QVBoxLayout(picBackground_);
+  layout->setContentsMargins(frame, frame, frame, frame);
+  layout->addWidget(table_);
+}
+
+void frmScores::AddNameBox() {
+  lblMeasureWidth_ = new QLabel(table_);
+  lblMeasureWidth_->setObjectName("lblMeasureWidth");
+  lblMeasureWidth_->setTextFormat(Qt::PlainText);
+  lblMeasureWidth_->hide();
+  txtHighScore_ = new NameBox(table_);
+  txtHighScore_->setObjectName("txtHighScore");
+  txtHighScore_->setAccessibleName("Your name");
+  txtHighScore_->setText(NoName);
+  txtHighScore_->hide();
+  connect(txtHighScore_, &NameBox::textChanged, this, &frmScores::txtHighScore_Change);
+  connect(txtHighScore_, &NameBox::Entered, this, &frmScores::txtHighScore_Validate);
+}
+
+QHBoxLayout* frmScores::AddButtons() {
+  auto* layout = new QHBoxLayout;
+  layout->setContentsMargins(ButtonMargin, ButtonMargin, ButtonMargin, ButtonMargin);
+  layout->addStretch();
+  cmdNewGame_ = AddButton("cmdNewGame", "&New Game", &frmScores::cmdNewGame_Click);
+  cmdReplay_ = AddButton("cmdReplay", "&View Replay", &frmScores::cmdReplay_Click);
+  cmdClose_ = AddButton("cmdClose", "&Close", &frmScores::cmdClose_Click);
+  for (QPushButton* button : {cmdNewGame_, cmdReplay_, cmdClose_}) layout->addWidget(button);
+  cmdNewGame_->hide();
+  cmdReplay_->hide();
+  cmdClose_->setFocus();
+  return layout;
+}
+
+QPushButton* frmScores::AddButton(const char* name, const char* caption,
+                                  void (frmScores::*handler)()) {
+  auto* button = new QPushButton(caption, this);
+  button->setObjectName(name);
+  button->setAutoDefault(false);
+  connect(button, &QPushButton::clicked, this, handler);
+  return button;
+}
+
+void frmScores::LoadHigh() {
+  Load(true);
+}
+
+void frmScores::LoadLow() {
+  Load(false);
+}
+
+void frmScores::Load(bool highScore) {
+  setWindowTitle(ScoreSection(highScore));
+  rows_ = ReadScores(pathName_, windowTitle());
+  for (int row = 0; row < RowCount; ++row) {
+    ShowRow(row);
+    if (!rows_[Index(row)].name.isEmpty()) table_->At(row).lblNumbers->setText(RowNumber(row));
+  }
+  table_->ShowNoScoresYet(rows_[0].name.isEmpty());
+}
+
+void frmScores::ShowRow(int row) {
+  const ScoreRow& score = rows_[Index(row)];
+  const ScoreTable::Row& labels = table_->At(row);
+  labels.lblNames->setText(score.name);
+  labels.lblMoves->setText(score.moves);
+  labels.lblTimes->setText(score.timeText);
+}
+
+void frmScores::SendScore(std::int16_t TotalMoves, std::int32_t TotalTime, bool HighScore) {
+  cmdReplay_->show();
+  cmdNewGame_->show();
+  for (int row = 0; row < RowCount; ++row) table_->SetRed(row, false);
+  txtHighScore_->hide();
+
+  const OfferedGame game{TotalMoves, TotalTime, HighScore};
+  const int place = InsertionPlace(rows_, game);
+  inserted_.reset();
+  if (place < RowCount) Insert(game, place);
+}
+
+void frmScores::Insert(const OfferedGame& game, int place) {
+  InsertScore(rows_, place, RowOf(game, QString()));
+  for (int row = 0; row < RowCount; ++row) {
+    ShowRow(row);
+    if (!rows_[Index(row)].moves.isEmpty()) table_->At(row).lblNumbers->setText(RowNumber(row));
+  }
+  table_->ShowNoScoresYet(false);
+  table_->SetRed(place, true);
+  inserted_ = game;
+  editedRow_ = place;
+  // This text is no name, and not copied to the row.
+  const QSignalBlocker silence(txtHighScore_);
+  txtHighScore_->setText(NoName);
+  ShowNameBox();
+}
+
+void frmScores::ShowNameBox() {
+  txtHighScore_->show();
+  FitNameBox();
+  txtHighScore_->selectAll();
+  txtHighScore_->setFocus();
+}
+
+void frmScores::FitNameBox() {
+  lblMeasureWidth_->setText(txtHighScore_->text());
+  const QRect place = table_->NamePlace(editedRow_);
+  const int width = std::min(lblMeasureWidth_->sizeHint().width() + BoxMargin, place.width());
+  QRect box(0, 0, width, txtHighScore_->sizeHint().height());
+  box.moveCenter(place.center());
+  box.moveLeft(place.left() - BoxIndent);
+  txtHighScore_->setGeometry(box);
+}
+
+// Only now do all labels have their places.
+void frmScores::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  FitNameBox();
+}
+
+void frmScores::txtHighScore_Change() {
+  table_->At(editedRow_).lblNames->setText(txtHighScore_->text());
+  FitNameBox();
+}
+
+bool frmScores::HoldsName() const {
+  return !txtHighScore_->text().isEmpty() && txtHighScore_->text() != NoName;
+}
+
+bool frmScores::txtHighScore_Validate() {
+  const QString name = txtHighScore_->text().trimmed();
+  if (!name.isEmpty() && name != NoName) {
+    txtHighScore_->hide();
+    return true;
+  }
+  context_.window.Tell("Aren't you forgetting something?", "Please enter your name.",
+                       MessageIcon::Exclamation);
+  ShowNameBox();
+  return false;
+}
+
+void frmScores::FixText(std::optional<int> row) {
+  if (!inserted_) return;
+  if (row == editedRow_) {
+    ShowNameBox();
+  } else if (!txtHighScore_->isHidden()) {
+    txtHighScore_Validate();
+  }
+}
+
+void frmScores::mouseReleaseEvent(QMouseEvent* event) {
+  const QPoint place = event->position().toPoint();
+  if (event->button() != Qt::LeftButton || !picBackground_->geometry().contains(place)) return;
+  FixText(table_->RowOf(childAt(place)));
+}
+
+void frmScores::cmdNewGame_Click() {
+  Answer(ScoresAnswer::NewGame);
+}
+
+void frmScores::cmdReplay_Click() {
+  Answer(ScoresAnswer::Replay);
+}
+
+void frmScores::cmdClose_Click() {
+  Answer(ScoresAnswer::Close);
+}
+
+void frmScores::Answer(ScoresAnswer answer) {
+  done(static_cast<int>(answer));
+}
+
+void frmScores::done(int result) {
+  const bool pending = !txtHighScore_->isHidden() && HoldsName();
+  if (pending && !txtHighScore_Validate()) return;
+  if (inserted_) SaveScore(pathName_, *inserted_, HoldsName() ? txtHighScore_->text() : QString());
+  inserted_.reset();
+  QDialog::done(result);
+}

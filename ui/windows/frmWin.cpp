@@ -1,0 +1,121 @@
+#include "ui/windows/frmWin.h"
+
+#include <cmath>
+
+#include <QFontMetricsF>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "ui/support/Firework.h"
+#include "ui/support/WindowPlacing.h"
+
+namespace {
+
+const QString Text = "You Win!";
+constexpr QPointF TitlePlace(200, 1000);
+constexpr double TwipsPerPixel = 15;
+constexpr int OpeningPasses = 1001;
+// A pass costs a fraction of a millisecond, so this leaves nearly all of a core to others.
+constexpr int DrawIntervalMilliseconds = 40;
+
+QFont TitleFont() {
+  return FireworkFont(80, true, true);
+}
+
+// The title lies in the middle, whatever font the system has for it.
+QSize SizeAroundTitle() {
+  const QFontMetricsF metrics(TitleFont());
+  const QPointF place = TitlePlace / TwipsPerPixel;
+  const double width = 2 * place.x() + metrics.horizontalAdvance(Text);
+  const double height = 2 * place.y() + metrics.height();
+  return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(height))};
+}
+
+}  // namespace
+
+frmWin::frmWin(QWidget* mainWindow)
+    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      picWin_(new FireworkView(this)),
+      manyColors_(HasManyColors(*mainWindow->screen())) {
+  setObjectName("frmWin");
+  setWindowTitle(Text);
+  picWin_->setObjectName("picWin");
+  picWin_->setAccessibleName(Text);
+  picWin_->setFixedSize(SizeAroundTitle());
+  auto* cmdOK = new QPushButton("OK", this);
+  cmdOK->setObjectName("cmdOK");
+  cmdOK->setDefault(true);
+  connect(cmdOK, &QPushButton::clicked, this, &frmWin::cmdOK_Click);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+  layout->addWidget(picWin_);
+  layout->addWidget(cmdOK, 0, Qt::AlignHCenter);
+  tmrDraw_.setObjectName("tmrDraw");
+  tmrDraw_.setInterval(DrawIntervalMilliseconds);
+  connect(&tmrDraw_, &QTimer::timeout, this, &frmWin::tmrDraw_Timer);
+  PlaceDialog(*this, *mainWindow);
+  Form_Load();
+}
+
+// The window opens already full.
+void frmWin::Form_Load() {
+  running_ = true;
+  random_.Reseed();
+  picWin_->Clear(Qt::black);
+  for (int pass = 0; pass < OpeningPasses; ++pass) DrawSmallText();
+  DrawTitle();
+}
+
+void frmWin::Form_Unload() {
+  running_ = false;
+  tmrDraw_.stop();
+}
+
+void frmWin::tmrDraw_Timer() {
+  if (picWin_->IsBlurred()) Form_Load();
+  DrawSmallText();
+  DrawTitle();
+}
+
+// The point still has the colour of what was drawn last.
+void frmWin::DrawSmallText() {
+  picWin_->SetPoint(picWin_->RandomPlace(random_), drawingColor_);
+  drawingColor_ = NextColor();
+  picWin_->Print(Text, FireworkFont(20, true, false), drawingColor_);
+}
+
+void frmWin::DrawTitle() {
+  picWin_->SetPoint(TitlePlace, drawingColor_);
+  drawingColor_ = manyColors_ ? Qt::yellow : Qt::blue;
+  picWin_->Print(Text, TitleFont(), drawingColor_);
+}
+
+QColor frmWin::NextColor() {
+  if (!manyColors_) return RandomPaletteColor(random_);
+  const auto bright = [this] { return 255 - random_.Below(196); };
+  const int red = bright();
+  const int green = bright();
+  const int blue = bright();
+  return {red, green, blue};
+}
+
+void frmWin::cmdOK_Click() {
+  accept();
+}
+
+void frmWin::done(int result) {
+  Form_Unload();
+  QDialog::done(result);
+}
+
+void frmWin::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (running_) tmrDraw_.start();
+}
+
+void frmWin::hideEvent(QHideEvent* event) {
+  tmrDraw_.stop();
+  QDialog::hideEvent(event);
+}

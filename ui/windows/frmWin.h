@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QDialog>
+#include <QTimer>
+
+#include "core/Random.h"
+
+class FireworkView;
+
+// The firework for a tour of all 64 squares that the player made alone. It runs for as long as the
+// window is seen.
+class frmWin : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmWin(QWidget* mainWindow);
+
+  void tmrDraw_Timer();
+  void cmdOK_Click();
+
+  void done(int result) override;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  void Form_Load();
+  void Form_Unload();
+  void DrawSmallText();
+  void DrawTitle();
+  QColor NextColor();
+
+  FireworkView* picWin_;
+  QTimer tmrDraw_{this};
+  Random random_;
+  QColor drawingColor_ = Qt::black;
+  bool running_ = false;
+  bool manyColors_;
+};
