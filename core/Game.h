@@ -17,8 +17,8 @@ class Game {
   // --- Moves ---
   // True when none of the eight squares a knight's move from (x, y) is free.
   bool CheckIfGameOver(int x, int y) const;
-  // A move that the caller knows to be legal, or the first square; (x, y) is a square of the board
-  // and fewer than 64 squares are taken.
+  // A move that the caller knows to be legal, or the first square; (x, y) is a square of the board.
+  // Does nothing after 64 moves: whoever makes moves in a loop stops there too.
   void ValidMove(int x, int y);
   void SetupFirstMove();
   void MakeRandomStartingMove();

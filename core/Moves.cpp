@@ -28,6 +28,8 @@ bool Game::CheckIfGameOver(int x, int y) const {
 }
 
 void Game::ValidMove(int x, int y) {
+  // A game file may list squares twice: its list is then full while squares are still free.
+  if (state_.MoveCount == SquareCount) return;
   window_.SetMenuEnabled(MenuEntry::mnuEditUndo, true);
   window_.SetMenuEnabled(MenuEntry::mnuViewHistory, true);
   window_.SetMenuEnabled(MenuEntry::mnuEditHistory, true);
