@@ -1,6 +1,7 @@
 # The program directory: the executable with all files that belong beside it. Copied elsewhere it
 # runs as it is.
 include_guard()
+include(HelpFile)
 
 set(GALLOPADE_PROGRAM_DIRECTORY ${CMAKE_BINARY_DIR}/GallopadeNova)
 
@@ -11,12 +12,13 @@ function(make_program_directory target)
   set_target_properties(${target} PROPERTIES
     RUNTIME_OUTPUT_DIRECTORY ${GALLOPADE_PROGRAM_DIRECTORY})
   set(stamp ${CMAKE_BINARY_DIR}/program-directory.stamp)
-  set(files ${GALLOPADE_PICTURES} ${GALLOPADE_LOOKS} ${PROJECT_SOURCE_DIR}/LICENSE)
+  set(files ${GALLOPADE_PICTURES} ${GALLOPADE_LOOKS} ${PROJECT_SOURCE_DIR}/LICENSE
+    ${GALLOPADE_HELP_FILE})
   add_custom_command(OUTPUT ${stamp}
     COMMAND ${CMAKE_COMMAND} -E make_directory ${GALLOPADE_PROGRAM_DIRECTORY}
     COMMAND ${CMAKE_COMMAND} -E copy_if_different ${files} ${GALLOPADE_PROGRAM_DIRECTORY}
     COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
-    DEPENDS ${files}
+    DEPENDS ${files} gallopade_help
     COMMENT "Completing the program directory"
     VERBATIM)
   add_custom_target(program_directory ALL DEPENDS ${stamp})

@@ -10,6 +10,7 @@
 #include "ui/commands/GameFiles.h"
 #include "ui/support/DoEvents.h"
 #include "ui/support/Pictures.h"
+#include "ui/windows/frmHelp.h"
 
 namespace {
 
@@ -24,7 +25,8 @@ frmGame::frmGame(Globals& globals)
       menu_(*this),
       dialogs_(*this),
       windows_(*this),
-      context_{game_, state_, *this, dialogs_, windows_, globals} {
+      context_{game_, state_, *this, dialogs_, windows_, globals},
+      helpKey_([this](const QString& topic) { GetHelp(topic); }) {
   setObjectName("frmGame");
   board_ = new BoardView(state_, this);
   setCentralWidget(board_);
@@ -35,6 +37,11 @@ frmGame::~frmGame() = default;
 void frmGame::Form_Load(const QString& commandLine) {
   game_.Form_Load(commandLine.toStdString());
   ShowWindow();
+}
+
+void frmGame::GetHelp(const QString& helpTopic) {
+  if (help_ == nullptr) help_ = std::make_unique<frmHelp>(globals_.ProgramDirectory);
+  helpTopic.isEmpty() ? help_->ShowContents() : help_->ShowTopic(helpTopic);
 }
 
 void frmGame::SetMenuEnabled(MenuEntry entry, bool enabled) {

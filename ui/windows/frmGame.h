@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include <QMainWindow>
 #include <QSize>
 
@@ -7,11 +9,13 @@
 #include "ui/commands/CommandContext.h"
 #include "ui/commands/MainWindow.h"
 #include "ui/support/HalfSecondTimer.h"
+#include "ui/support/HelpKey.h"
 #include "ui/support/QtDialogs.h"
 #include "ui/windows/GameMenu.h"
 #include "ui/windows/ScreenWindows.h"
 
 class BoardView;
+class frmHelp;
 
 // The main window: it owns the live game and is the only place where it changes. It forwards what
 // the player does to the game and to the commands, and shows what the game asks for.
@@ -113,6 +117,8 @@ class frmGame : public QMainWindow, public MainWindow {
   QtDialogs dialogs_;
   ScreenWindows windows_;
   CommandContext context_;
+  std::unique_ptr<frmHelp> help_;  // made on first use
+  HelpKey helpKey_;
   int works_ = 0;
   bool closeRequested_ = false;
   bool resizePending_ = false;

@@ -1,0 +1,211 @@
+#include "ui/windows/frmHelp.h"
+
+#include <QAction>
+#include <QGuiApplication>
+#include <QHelpContentWidget>
+#include <QLabel>
+#include <QScreen>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QWindow>
+
+#include "ui/help/HelpIndex.h"
+#include "ui/help/HelpPage.h"
+#include "ui/help/HelpSearch.h"
+
+namespace {
+
+const QString HelpFileName = "GallopadeNova.hlp";
+const QString FirstPage = "welcome.html";
+
+QSize DesignedSize(const QWidget& window) {
+  const QFontMetrics metrics = window.fontMetrics();
+  const QSize wanted(metrics.averageCharWidth() * 150, metrics.height() * 42);
+  return wanted.boundedTo(window.screen()->availableSize() * 9 / 10);
+}
+
+}  // namespace
+
+frmHelp::frmHelp(const QString& programDirectory, QWidget* parent)
+    : QMainWindow(parent, Qt::Window), book_(programDirectory + HelpFileName) {
+  setObjectName("frmHelp");
+  setWindowTitle("Gallopade Nova Help");
+  // The program ends with its main window, whether or not this one is open.
+  setAttribute(Qt::WA_QuitOnClose, false);
+  resize(DesignedSize(*this));
+  auto* escape = new QShortcut(Qt::Key_Escape, this);
+  connect(escape, &QShortcut::activated, this, &QWidget::close);
+  if (book_.Error().isEmpty()) {
+    BuildViewer();
+  } else {
+    BuildError();
+  }
+}
+
+frmHelp::~frmHelp() = default;
+
+void frmHelp::BuildError() {
+  auto* label = new QLabel("The help file " + HelpFileName + " could not be opened.\n\n" +
+                           book_.Error() + "\n\nIt belongs in the program's own folder.");
+  label->setObjectName("helpError");
+  label->setTextFormat(Qt::PlainText);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  label->setWordWrap(true);
+  label->setAlignment(Qt::AlignCenter);
+  label->setMargin(fontMetrics().height());
+  setCentralWidget(label);
+}
+
+void frmHelp::BuildViewer() {
+  auto* splitter = new QSplitter;
+  page_ = new HelpPage(book_);
+  splitter->addWidget(BuildSide());
+  splitter->addWidget(page_);
+  splitter->setStretchFactor(1, 1);
+  splitter->setSizes({width() * 3 / 10, width() * 7 / 10});
+  splitter->setChildrenCollapsible(false);
+  setCentralWidget(splitter);
+  BuildToolBar();
+  AddWindowShortcuts();
+  connect(page_, &QTextBrowser::sourceChanged, this, &frmHelp::SelectInContents);
+  connect(page_, &HelpPage::LinkLeadsOut, this, [this](const QUrl& link) {
+    statusBar()->showMessage("This link leads out of the help: " + link.toDisplayString());
+    statusBar()->show();
+  });
+  OpenPage(QUrl(FirstPage));
+}
+
+QWidget* frmHelp::BuildSide() {
+  contents_ = book_.ContentsTree();
+  contents_->setObjectName("helpContents");
+  contents_->setAccessibleName("Contents");
+  auto* index = new HelpIndex(book_.Keywords());
+  auto* search = new HelpSearch(book_);
+  side_ = new QTabWidget;
+  side_->setObjectName("helpSide");
+  side_->setAccessibleName("Ways to find a page");
+  side_->addTab(contents_, "&Contents");
+  side_->addTab(index, "&Index");
+  side_->addTab(search, "&Search");
+
+  connect(contents_, &QHelpContentWidget::linkActivated, this, &frmHelp::OpenPage);
+  connect(contents_, &QHelpContentWidget::clicked, this, [this](const QModelIndex& chosen) {
+    const auto* model = qobject_cast<QHelpContentModel*>(contents_->model());
+    OpenPage(model->contentItemAt(chosen)->url());
+  });
+  connect(qobject_cast<QHelpContentModel*>(contents_->model()), &QHelpContentModel::contentsCreated,
+          this, &frmHelp::ShowContentsTree);
+  connect(index, &HelpIndex::KeywordChosen, this,
+          [this](const QString& keyword) { OpenPage(book_.PageOf(keyword)); });
+  connect(search, &HelpSearch::PageChosen, this, &frmHelp::OpenPageAt);
+  return side_;
+}
+
+void frmHelp::BuildToolBar() {
+  QToolBar* bar = addToolBar("Navigation");
+  bar->setObjectName("helpToolBar");
+  bar->setMovable(false);
+  bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  bar->setContextMenuPolicy(Qt::PreventContextMenu);
+  const auto add = [&](const char* name, const QString& text, const QIcon& icon,
+                       const QKeySequence& keys, auto action) {
+    QAction* entry = bar->addAction(icon, text);
+    entry->setObjectName(name);
+    entry->setShortcut(keys);
+    entry->setToolTip(text + " (" + keys.toString(QKeySequence::NativeText) + ")");
+    connect(entry, &QAction::triggered, page_, action);
+    return entry;
+  };
+  QAction* back = add("helpBack", "Back", style()->standardIcon(QStyle::SP_ArrowBack),
+                      QKeySequence("Alt+Left"), [this] { page_->backward(); });
+  QAction* forward = add("helpForward", "Forward", style()->standardIcon(QStyle::SP_ArrowForward),
+                         QKeySequence("Alt+Right"), [this] { page_->forward(); });
+  add("helpHome", "Home", QIcon::fromTheme("go-home"), QKeySequence("Alt+Home"),
+      [this] { OpenPage(QUrl(FirstPage)); });
+  bar->addSeparator();
+  add("helpZoomIn", "Zoom In", QIcon::fromTheme("zoom-in"), QKeySequence("Ctrl++"),
+      [this] { page_->ZoomBy(1); });
+  add("helpZoomOut", "Zoom Out", QIcon::fromTheme("zoom-out"), QKeySequence("Ctrl+-"),
+      [this] { page_->ZoomBy(-1); });
+  back->setEnabled(false);
+  forward->setEnabled(false);
+  connect(page_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+  connect(page_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+}
+
+void frmHelp::AddWindowShortcuts() {
+  const auto add = [this](const char* keys, auto action) {
+    auto* shortcut = new QShortcut(QKeySequence(keys), this);
+    connect(shortcut, &QShortcut::activated, page_, action);
+  };
+  add("Ctrl+=", [this] { page_->ZoomBy(1); });  // the plus key of many keyboards, without Shift
+  add("Ctrl+0", [this] { page_->ResetZoom(); });
+  add("Ctrl+F", [this] {
+    side_->setCurrentIndex(side_->count() - 1);
+    side_->currentWidget()->setFocus();
+  });
+  add("F1", [this] { ShowContents(); });
+}
+
+void frmHelp::ShowContentsTree() {
+  contents_->expandAll();
+  SelectInContents();
+}
+
+void frmHelp::OpenPage(const QUrl& page) {
+  if (page.isEmpty()) return;
+  statusBar()->hide();
+  page_->setSource(book_.Resolved(page));
+}
+
+void frmHelp::OpenPageAt(const QUrl& page, const QStringList& words) {
+  OpenPage(page);
+  page_->moveCursor(QTextCursor::Start);
+  if (!words.isEmpty()) page_->find(words.first());
+}
+
+void frmHelp::SelectInContents() {
+  const QModelIndex item = contents_->indexOf(page_->source());
+  if (item.isValid()) contents_->setCurrentIndex(item);
+}
+
+void frmHelp::ShowContents() {
+  ShowTopic(QString());
+}
+
+void frmHelp::ShowTopic(const QString& keyword) {
+  if (page_ != nullptr) {
+    const QUrl page = book_.PageOf(keyword);
+    if (page.isEmpty()) side_->setCurrentWidget(contents_);
+    OpenPage(page.isEmpty() ? QUrl(FirstPage) : page);
+    page_->setFocus();
+  }
+  RaiseWindow();
+}
+
+void frmHelp::RaiseWindow() {
+  BelongToOpenDialog();
+  if (isMinimized()) showNormal();
+  show();
+  raise();
+  activateWindow();
+}
+
+// A dialog blocks every window but those that belong to it. The dialog does not own this window:
+// when it is gone, the window simply belongs to nobody again.
+void frmHelp::BelongToOpenDialog() {
+  QWindow* modal = QGuiApplication::modalWindow();
+  create();
+  QWindow* window = windowHandle();
+  if (modal == window || window->transientParent() == modal) return;
+  window->setTransientParent(modal);
+}
+
+bool frmHelp::event(QEvent* event) {
+  const bool handled = QMainWindow::event(event);
+  if (event->type() == QEvent::WindowBlocked) BelongToOpenDialog();
+  return handled;
+}
