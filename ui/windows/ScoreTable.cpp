@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QApplication>
+#include <QFontMetrics>
 #include <QGridLayout>
 #include <QPainter>
 
@@ -12,6 +14,7 @@ enum Column { Numbers, Names, Moves, Times };
 constexpr int Padding = 12;
 constexpr int ColumnGap = 14;
 constexpr int RowGap = 7;
+constexpr double RowFontScale = 1.2;
 constexpr double CornerRadius = 4;
 constexpr double Opacity = 0.88;
 constexpr double LineOpacity = 0.3;
@@ -20,19 +23,31 @@ constexpr Qt::Alignment AlignmentOf(int column) {
   return Qt::AlignVCenter | (column == Names ? Qt::AlignLeft : Qt::AlignRight);
 }
 
+// Somewhat larger than the text of a dialog.
+QFont RowFont() {
+  QFont font = QApplication::font();
+  font.setFamily("Arial");
+  font.setPointSizeF(font.pointSizeF() * RowFontScale);
+  return font;
+}
+
+QFont TitleFont() {
+  QFont font = RowFont();
+  font.setBold(true);
+  return font;
+}
+
 }  // namespace
 
 ScoreTable::ScoreTable(QWidget* parent) : QWidget(parent), grid_(new QGridLayout(this)) {
-  QFont arial = font();
-  arial.setFamily("Arial");
-  setFont(arial);
+  setFont(RowFont());
   grid_->setContentsMargins(Padding, Padding, Padding, Padding);
   grid_->setHorizontalSpacing(ColumnGap);
   grid_->setVerticalSpacing(RowGap);
 
-  AddLabel("lblNamesTitle", 0, Names)->setText("Names");
-  AddLabel("lblMovesTitle", 0, Moves)->setText("Moves");
-  AddLabel("lblTimesTitle", 0, Times)->setText("Times");
+  AddTitle("lblNamesTitle", Names, "Names");
+  AddTitle("lblMovesTitle", Moves, "Moves");
+  AddTitle("lblTimesTitle", Times, "Times");
   int line = 1;
   for (Row& row : rows_) {
     row = {AddLabel("lblNumbers", line, Numbers), AddLabel("lblNames", line, Names),
@@ -53,9 +68,16 @@ ElidedLabel* ScoreTable::AddLabel(const char* name, int line, int column) {
   return label;
 }
 
+void ScoreTable::AddTitle(const char* name, int column, const QString& title) {
+  ElidedLabel* label = AddLabel(name, 0, column);
+  label->setText(title);
+  label->setFont(TitleFont());
+}
+
 // Wide enough for what games bring; only the names take what is left.
 void ScoreTable::SetColumnWidths() {
-  const auto width = [this](const char* text) { return fontMetrics().horizontalAdvance(text); };
+  const QFontMetrics metrics(TitleFont());
+  const auto width = [&metrics](const char* text) { return metrics.size(0, text).width() + 1; };
   grid_->setColumnMinimumWidth(Numbers, width("10."));
   grid_->setColumnMinimumWidth(Names, width("A Name of Some Length"));
   grid_->setColumnMinimumWidth(Moves, width("Moves"));

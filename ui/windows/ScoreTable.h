@@ -39,6 +39,7 @@ class ScoreTable : public QWidget {
 
  private:
   ElidedLabel* AddLabel(const char* name, int line, int column);
+  void AddTitle(const char* name, int column, const QString& title);
   void SetColumnWidths();
 
   QGridLayout* grid_;

@@ -11,7 +11,8 @@ namespace {
 
 constexpr int IconSide = 48;
 constexpr int Margin = 18;
-constexpr int MessageWidth = 260;
+constexpr int ButtonGap = 8;
+constexpr int MessageWidth = 240;
 
 QIcon Symbol(const QWidget& window) {
   const QIcon own = window.windowIcon();
@@ -31,7 +32,6 @@ frmGameOver::frmGameOver(const GameOverReport& report, QWidget* mainWindow)
   auto* lblMessage = new QLabel(QString::fromStdString(report.message), this);
   lblMessage->setObjectName("lblMessage");
   lblMessage->setTextFormat(Qt::PlainText);
-  lblMessage->setWordWrap(true);
   lblMessage->setMinimumWidth(MessageWidth);
 
   auto* cmdScoresReplay = new QPushButton(QString::fromStdString(report.buttonCaption), this);
@@ -43,6 +43,7 @@ frmGameOver::frmGameOver(const GameOverReport& report, QWidget* mainWindow)
   connect(cmdUndo, &QPushButton::clicked, this, &frmGameOver::cmdUndo_Click);
 
   auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(ButtonGap);
   buttons->addStretch();
   buttons->addWidget(cmdScoresReplay);
   buttons->addWidget(cmdUndo);

@@ -24,10 +24,12 @@ const QString NoName = "Enter Your Name";
 // The picture is shown at half its size, the table within its frame.
 constexpr QSize PictureSize(520, 390);
 constexpr int FrameWidth = 40;
+constexpr int CornerShare = 16;
 constexpr int ButtonMargin = 10;
+constexpr int ButtonGap = 8;
 // The box is wider than its text, and begins a little before the name under it.
 constexpr int BoxMargin = 18;
-constexpr int BoxIndent = 6;
+constexpr int BoxIndent = 3;
 
 static_assert(static_cast<int>(ScoresAnswer::Close) == QDialog::Rejected);
 
@@ -67,7 +69,8 @@ void frmScores::AddBackground() {
   picBackground_ = new CoverPicture(this);
   picBackground_->setObjectName("picBackground");
   const Globals& globals = context_.globals;
-  picBackground_->SetPicture(LoadPicture(globals.settings.ScoresImage, globals.ProgramDirectory));
+  picture_ = LoadPicture(globals.settings.ScoresImage, globals.ProgramDirectory);
+  picBackground_->SetPicture(picture_);
   table_ = new ScoreTable(picBackground_);
   const double scale = ScaleFor(table_->sizeHint());
   picBackground_->setFixedSize(PictureSize * scale);
@@ -75,6 +78,16 @@ void frmScores::AddBackground() {
   auto* layout = new QVBoxLayout(picBackground_);
   layout->setContentsMargins(frame, frame, frame, frame);
   layout->addWidget(table_);
+}
+
+// The buttons lie outside the picture; a corner of it, as high as they are, joins them to it.
+QWidget* frmScores::AddBackgroundCorner() {
+  auto* imgBackgroundCorner = new CoverPicture(this);
+  imgBackgroundCorner->setObjectName("imgBackgroundCorner");
+  const int side = picture_.width() / CornerShare;
+  imgBackgroundCorner->SetPicture(picture_.copy(0, picture_.height() - side, side, side));
+  imgBackgroundCorner->setFixedSize(26, 26);
+  return imgBackgroundCorner;
 }
 
 void frmScores::AddNameBox() {
@@ -94,6 +107,8 @@ void frmScores::AddNameBox() {
 QHBoxLayout* frmScores::AddButtons() {
   auto* layout = new QHBoxLayout;
   layout->setContentsMargins(ButtonMargin, ButtonMargin, ButtonMargin, ButtonMargin);
+  layout->setSpacing(ButtonGap);
+  layout->addWidget(AddBackgroundCorner());
   layout->addStretch();
   cmdNewGame_ = AddButton("cmdNewGame", "&New Game", &frmScores::cmdNewGame_Click);
   cmdReplay_ = AddButton("cmdReplay", "&View Replay", &frmScores::cmdReplay_Click);
@@ -178,7 +193,8 @@ void frmScores::ShowNameBox() {
 void frmScores::FitNameBox() {
   lblMeasureWidth_->setText(txtHighScore_->text());
   const QRect place = table_->NamePlace(editedRow_);
-  const int width = std::min(lblMeasureWidth_->sizeHint().width() + BoxMargin, place.width());
+  const int width = std::min(lblMeasureWidth_->sizeHint().width() + BoxMargin,
+                             place.width() + 2 * BoxIndent);
   QRect box(0, 0, width, txtHighScore_->sizeHint().height());
   box.moveCenter(place.center());
   box.moveLeft(place.left() - BoxIndent);

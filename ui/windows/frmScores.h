@@ -49,6 +49,7 @@ class frmScores : public QDialog {
  private:
   void AddBackground();
   void AddNameBox();
+  QWidget* AddBackgroundCorner();
   QHBoxLayout* AddButtons();
   QPushButton* AddButton(const char* name, const char* caption, void (frmScores::*handler)());
   void Load(bool highScore);
@@ -61,6 +62,7 @@ class frmScores : public QDialog {
 
   const CommandContext& context_;
   const QString pathName_;
+  QImage picture_;
   CoverPicture* picBackground_ = nullptr;
   ScoreTable* table_ = nullptr;
   QLabel* lblMeasureWidth_ = nullptr;
