@@ -87,6 +87,7 @@ TEST_F(Board, HighlightsOnlyValidMovesWhenToldSo) {
   model.HighlightSquare(state, look, CornerSquare, false);
   EXPECT_EQ(model.Cell(CornerSquare).backColor, look.KnightColor);
   Take(2, 1);
+  model.RestoreColors(state, look, -1, -1);
   model.HighlightSquare(state, look, CornerSquare, false);
   EXPECT_EQ(model.Cell(CornerSquare).backColor, look.VisitedColor);
 }

@@ -31,13 +31,13 @@ void BoardView::SetPictures(BoardPictures pictures) {
     model_.SetPictureSize(static_cast<SquarePicture>(i),
                           {TwipsFromPixels(size.width()), TwipsFromPixels(size.height())});
   }
-  update();
+  PaintEverything();
 }
 
 void BoardView::SetBackground(Color color, bool showImage) {
   backgroundColor_ = color;
   showBackgroundImage_ = showImage;
-  update();
+  PaintEverything();
 }
 
 void BoardView::LayOut(const BoardLook& look) {
@@ -46,6 +46,12 @@ void BoardView::LayOut(const BoardLook& look) {
   model_.ReCenterImages(look);
   cellPainter_.Clear();
   background_ = QPixmap();
+  PaintEverything();
+}
+
+// Whatever changed until now is part of it.
+void BoardView::PaintEverything() {
+  model_.TakeChanges();
   update();
 }
 
@@ -159,7 +165,7 @@ void BoardView::resizeEvent(QResizeEvent* event) {
 void BoardView::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange) {
     cellPainter_.Clear();
-    update();
+    PaintEverything();
   }
   QWidget::changeEvent(event);
 }

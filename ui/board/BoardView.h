@@ -61,6 +61,7 @@ class BoardView : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void PaintEverything();
   QRegion ChangedRegion();
   void AnnounceCursor();
   void PaintCells(QPainter& painter, const QRegion& region);
