@@ -1,14 +1,12 @@
 #include "ui/commands/EndOfGame.h"
 
+#include "storage/ScoreLists.h"
 #include "ui/commands/Replay.h"
 
 namespace {
 
-// The first game that counts as a high score.
-constexpr int HighScoreMoves = 33;
-
 void SubmitToScores(const CommandContext& context, const GameOverReport& report) {
-  const ScoreList list = report.moveCount < HighScoreMoves ? ScoreList::Low : ScoreList::High;
+  const ScoreList list = report.moveCount > MostLowMoves ? ScoreList::High : ScoreList::Low;
   context.state.NoScoreGame = true;  // a game is submitted once only
   const FinishedGame finished{report.moveCount, report.elapsedHalfSeconds};
   switch (context.windows.ShowScores(list, finished)) {
@@ -27,8 +25,11 @@ void SubmitToScores(const CommandContext& context, const GameOverReport& report)
 
 void EndGame(const CommandContext& context, const GameOverReport& report) {
   const bool mayScore = !context.state.NoScoreGame;
+  const std::uint32_t serial = context.state.GameSerial;
   if (report.moveCount == SquareCount && mayScore) context.windows.ShowWin();
-  if (context.windows.ShowGameOver(report) == GameOverAnswer::Undo) {
+  const GameOverAnswer answer = context.windows.ShowGameOver(report);
+  if (context.state.GameSerial != serial) return;
+  if (answer == GameOverAnswer::Undo) {
     context.game.mnuEditUndo_Click();
   } else if (mayScore) {
     SubmitToScores(context, report);

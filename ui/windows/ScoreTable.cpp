@@ -31,7 +31,7 @@ QFont RowFont() {
   return font;
 }
 
-QFont TitleFont() {
+QFont BoldFont() {
   QFont font = RowFont();
   font.setBold(true);
   return font;
@@ -71,12 +71,12 @@ ElidedLabel* ScoreTable::AddLabel(const char* name, int line, int column) {
 void ScoreTable::AddTitle(const char* name, int column, const QString& title) {
   ElidedLabel* label = AddLabel(name, 0, column);
   label->setText(title);
-  label->setFont(TitleFont());
+  label->setFont(BoldFont());
 }
 
 // Wide enough for what games bring; only the names take what is left.
 void ScoreTable::SetColumnWidths() {
-  const QFontMetrics metrics(TitleFont());
+  const QFontMetrics metrics(BoldFont());
   const auto width = [&metrics](const char* text) { return metrics.size(0, text).width() + 1; };
   grid_->setColumnMinimumWidth(Numbers, width("10."));
   grid_->setColumnMinimumWidth(Names, width("A Name of Some Length"));
@@ -85,10 +85,14 @@ void ScoreTable::SetColumnWidths() {
   grid_->setColumnStretch(Names, 1);
 }
 
+// Bold as well, for those who cannot tell the colour.
 void ScoreTable::SetRed(int row, bool red) {
   QPalette colors;
   if (red) colors.setColor(QPalette::Text, Qt::red);
-  for (ElidedLabel* label : At(row).All()) label->setPalette(colors);
+  for (ElidedLabel* label : At(row).All()) {
+    label->setPalette(colors);
+    label->setFont(red ? BoldFont() : RowFont());
+  }
 }
 
 QRect ScoreTable::NamePlace(int row) const {

@@ -81,12 +81,12 @@ void frmScores::AddBackground() {
 }
 
 // The buttons lie outside the picture; a corner of it, as high as they are, joins them to it.
-QWidget* frmScores::AddBackgroundCorner() {
+QWidget* frmScores::AddBackgroundCorner(int height) {
   auto* imgBackgroundCorner = new CoverPicture(this);
   imgBackgroundCorner->setObjectName("imgBackgroundCorner");
   const int side = picture_.width() / CornerShare;
   imgBackgroundCorner->SetPicture(picture_.copy(0, picture_.height() - side, side, side));
-  imgBackgroundCorner->setFixedSize(26, 26);
+  imgBackgroundCorner->setFixedSize(height, height);
   return imgBackgroundCorner;
 }
 
@@ -108,11 +108,11 @@ QHBoxLayout* frmScores::AddButtons() {
   auto* layout = new QHBoxLayout;
   layout->setContentsMargins(ButtonMargin, ButtonMargin, ButtonMargin, ButtonMargin);
   layout->setSpacing(ButtonGap);
-  layout->addWidget(AddBackgroundCorner());
-  layout->addStretch();
   cmdNewGame_ = AddButton("cmdNewGame", "&New Game", &frmScores::cmdNewGame_Click);
   cmdReplay_ = AddButton("cmdReplay", "&View Replay", &frmScores::cmdReplay_Click);
   cmdClose_ = AddButton("cmdClose", "&Close", &frmScores::cmdClose_Click);
+  layout->addWidget(AddBackgroundCorner(cmdClose_->sizeHint().height()));
+  layout->addStretch();
   for (QPushButton* button : {cmdNewGame_, cmdReplay_, cmdClose_}) layout->addWidget(button);
   cmdNewGame_->hide();
   cmdReplay_->hide();
@@ -193,8 +193,8 @@ void frmScores::ShowNameBox() {
 void frmScores::FitNameBox() {
   lblMeasureWidth_->setText(txtHighScore_->text());
   const QRect place = table_->NamePlace(editedRow_);
-  const int width = std::min(lblMeasureWidth_->sizeHint().width() + BoxMargin,
-                             place.width() + 2 * BoxIndent);
+  const int width =
+      std::min(lblMeasureWidth_->sizeHint().width() + BoxMargin, place.width() + 2 * BoxIndent);
   QRect box(0, 0, width, txtHighScore_->sizeHint().height());
   box.moveCenter(place.center());
   box.moveLeft(place.left() - BoxIndent);

@@ -49,7 +49,7 @@ class frmScores : public QDialog {
  private:
   void AddBackground();
   void AddNameBox();
-  QWidget* AddBackgroundCorner();
+  QWidget* AddBackgroundCorner(int height);
   QHBoxLayout* AddButtons();
   QPushButton* AddButton(const char* name, const char* caption, void (frmScores::*handler)());
   void Load(bool highScore);

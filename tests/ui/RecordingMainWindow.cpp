@@ -1,0 +1,38 @@
+#include "tests/ui/RecordingMainWindow.h"
+
+void RecordingWindows::Show(const std::string& window, const std::string& details) {
+  log_.push_back("show " + window + (details.empty() ? "" : " " + details));
+  if (onShow) onShow(window);
+}
+
+void RecordingWindows::ShowSolve(int startMove) {
+  Show("frmSolve", std::to_string(startMove));
+}
+
+void RecordingWindows::ShowReplay(int total) {
+  Show("frmReplay", std::to_string(total));
+}
+
+GameOverAnswer RecordingWindows::ShowGameOver(const GameOverReport& report) {
+  Show("frmGameOver", report.buttonCaption + "|" + report.message);
+  return gameOverAnswer;
+}
+
+ScoresAnswer RecordingWindows::ShowScores(ScoreList list, std::optional<FinishedGame> finished) {
+  std::string details = list == ScoreList::High ? "high" : "low";
+  if (finished) {
+    details += "|" + std::to_string(finished->moveCount) + "|" +
+               std::to_string(finished->elapsedHalfSeconds);
+  }
+  Show("frmScores", details);
+  return scoresAnswer;
+}
+
+QString RecordingDialogs::Choose(const std::string& purpose, const FileQuestion& question) {
+  log_.push_back(purpose + " " + question.directory.toStdString() + "|" +
+                 question.filter.toStdString());
+  if (paths.empty()) return {};
+  const QString path = paths.front();
+  paths.pop_front();
+  return path;
+}
