@@ -71,12 +71,15 @@ TEST(HelpPages, EveryEntryOfTheContentsAndTheIndexLeadsToAPlaceThatExists) {
   for (const QString& link : Values(ProjectFile, {"ref"})) ExpectTarget(ProjectFile, link);
 }
 
-TEST(HelpPages, EveryPageIsInTheHelpFileAndInTheContents) {
+TEST(HelpPages, EveryPageIsInTheContentsAndInTheHelpFileWithItsPictures) {
   const QStringList files = Values(ProjectFile, {}, "file");
   const QStringList contents = Values(ProjectFile, {"ref"});
   for (const QString& page : PageNames()) {
     EXPECT_TRUE(files.contains(page)) << page.toStdString();
     EXPECT_TRUE(contents.contains(page)) << page.toStdString();
+    for (const QString& picture : Values(page, {"src"})) {
+      EXPECT_TRUE(files.contains(picture)) << picture.toStdString();
+    }
   }
 }
 
