@@ -67,10 +67,7 @@ void Game::SetupFirstMove() {
     state_.FirstMoveMade = false;
     state_.KnightX = state_.KnightY = 0;
   } else if (options_.StartingPosition == 0) {
-    state_.KnightX = StartingCoordinate(options_.StartingX);
-    state_.KnightY = StartingCoordinate(options_.StartingY);
-    state_.Cell(state_.KnightX, state_.KnightY) = GameState::Visited;
-    ValidMove(state_.KnightX, state_.KnightY);
+    ValidMove(StartingCoordinate(options_.StartingX), StartingCoordinate(options_.StartingY));
     state_.FirstMoveMade = true;
   } else {
     MakeRandomStartingMove();
@@ -80,10 +77,9 @@ void Game::SetupFirstMove() {
 
 void Game::MakeRandomStartingMove() {
   random_.Reseed();
-  state_.KnightX = static_cast<std::int16_t>(random_.Below(BoardSide));
-  state_.KnightY = static_cast<std::int16_t>(random_.Below(BoardSide));
-  state_.Cell(state_.KnightX, state_.KnightY) = GameState::Visited;
-  ValidMove(state_.KnightX, state_.KnightY);
+  const int x = random_.Below(BoardSide);
+  const int y = random_.Below(BoardSide);
+  ValidMove(x, y);
   state_.FirstMoveMade = true;
 }
 
@@ -93,8 +89,6 @@ void Game::pctGrid_Click(int index) {
   const int y = RowOf(index);
 
   if (!state_.FirstMoveMade) {
-    state_.KnightX = static_cast<std::int16_t>(x);
-    state_.KnightY = static_cast<std::int16_t>(y);
     ClearRedo();
     ValidMove(x, y);
     state_.FirstMoveMade = true;

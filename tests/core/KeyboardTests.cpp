@@ -79,6 +79,14 @@ TEST_F(Keyboard, ShowsEachStepWhateverTheHighlightingMethod) {
   EXPECT_EQ(TakeLog(), Steps{"HighlightSquare 36 forced"});
 }
 
+TEST_F(Keyboard, StepsOntoTheEdges) {
+  Begin();
+  EXPECT_EQ(From("G4", 39), "H4");
+  EXPECT_EQ(From("B4", 37), "A4");
+  EXPECT_EQ(From("D2", 40), "D1");
+  EXPECT_EQ(From("D7", 38), "D8");
+}
+
 TEST_F(Keyboard, StopsAtTheEdges) {
   Begin();
   for (const int key : {39, 102}) EXPECT_EQ(From("H4", key), "H4");

@@ -160,6 +160,14 @@ TEST_F(NewGame, StopsTheClockAtZero) {
   EXPECT_EQ(window.Caption(), "Gallopade Nova: 1 - 0:00:00.0");
 }
 
+TEST_F(NewGame, WritesTheCaptionBeforeAnyMoveWithoutTheTime) {
+  options.ShowTime = false;
+  Begin(StartOnPlayersChoice);
+  PlayTour(game, 3);
+  game.StartNewGame();
+  EXPECT_EQ(window.Caption(), "Gallopade Nova: 0");
+}
+
 TEST_F(NewGame, HasASerialNumberOfItsOwn) {
   Begin();
   const std::uint32_t before = state.GameSerial;

@@ -90,14 +90,28 @@ TEST_F(StartUp, ShowsNoCursorBeforeThePlayerPicksTheFirstSquare) {
 TEST_F(StartUp, LeavesTheGameToThePlayer) {
   Begin();
   EXPECT_FALSE(state.ApplyingMoves);
-  EXPECT_FALSE(state.SolverRunning);
-  EXPECT_FALSE(state.NoScoreGame);
 }
 
 TEST_F(StartUp, LeavesTheClockStoppedAtZero) {
   Begin();
   EXPECT_FALSE(window.IsClockEnabled());
   EXPECT_EQ(state.ElapsedHalfSeconds, 0);
+}
+
+TEST_F(StartUp, BeginsFromNothingWhateverWasThere) {
+  state.SolverRunning = true;
+  state.NoScoreGame = true;
+  state.MoveCount = 5;
+  game.Form_Load("");
+  EXPECT_FALSE(state.SolverRunning);
+  EXPECT_FALSE(state.NoScoreGame);
+  EXPECT_EQ(MovesMade(state), SquaresNamed("A8"));
+}
+
+TEST_F(StartUp, WritesTheCaptionBeforeAnyMoveWithoutTheTime) {
+  options.ShowTime = false;
+  Begin(StartOnPlayersChoice);
+  EXPECT_EQ(window.Caption(), "Gallopade Nova: 0");
 }
 
 TEST_F(StartUp, WritesAPlainCaptionWhenNothingShallBeShown) {
