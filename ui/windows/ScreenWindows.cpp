@@ -1,5 +1,6 @@
 #include "ui/windows/ScreenWindows.h"
 
+#include "ui/support/Firework.h"
 #include "ui/windows/frmGame.h"
 #include "ui/windows/frmGameOver.h"
 #include "ui/windows/frmScores.h"
@@ -14,7 +15,7 @@ void ScreenWindows::ShowMoveHistory() {}
 void ScreenWindows::ShowCommandHistory() {}
 
 void ScreenWindows::ShowWin() {
-  frmWin window(&mainWindow_);
+  frmWin window(HasManyColors(*mainWindow_.screen()), &mainWindow_);
   window.exec();
 }
 

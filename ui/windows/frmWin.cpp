@@ -4,7 +4,6 @@
 
 #include <QFontMetricsF>
 #include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 
 #include "ui/support/Firework.h"
@@ -34,10 +33,10 @@ QSize SizeAroundTitle() {
 
 }  // namespace
 
-frmWin::frmWin(QWidget* mainWindow)
+frmWin::frmWin(bool manyColors, QWidget* mainWindow)
     : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
       picWin_(new FireworkView(this)),
-      manyColors_(HasManyColors(*mainWindow->screen())) {
+      manyColors_(manyColors) {
   setObjectName("frmWin");
   setWindowTitle(Text);
   picWin_->setObjectName("picWin");

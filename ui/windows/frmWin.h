@@ -13,7 +13,8 @@ class frmWin : public QDialog {
   Q_OBJECT
 
  public:
-  explicit frmWin(QWidget* mainWindow);
+  // manyColors: random bright ones; otherwise those of a palette of seven.
+  frmWin(bool manyColors, QWidget* mainWindow);
 
   void tmrDraw_Timer();
   void cmdOK_Click();
@@ -36,5 +37,5 @@ class frmWin : public QDialog {
   Random random_;
   QColor drawingColor_ = Qt::black;
   bool running_ = false;
-  bool manyColors_;
+  const bool manyColors_;
 };
