@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+// The printed list of moves as a PDF document: one page, in two columns of 32 moves; more pages
+// only where the paper is very small. version as in exported lists, such as "1.0".
+QByteArray MoveListPage(const QStringList& lines, const QString& version);

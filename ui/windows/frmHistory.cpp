@@ -1,0 +1,170 @@
+#include "ui/windows/frmHistory.h"
+
+#include <algorithm>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QItemSelection>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include "storage/MoveListExport.h"
+#include "ui/commands/CommandHistory.h"
+#include "ui/commands/MoveHistory.h"
+#include "ui/support/MoveListPage.h"
+#include "ui/support/Version.h"
+#include "ui/support/WindowPlacing.h"
+
+namespace {
+
+constexpr const char* Tag = "tag";
+constexpr int VisibleRows = 18;
+constexpr int ListWidthInRows = 14;
+
+}  // namespace
+
+frmHistory::frmHistory(const CommandContext& context, QWidget* mainWindow)
+    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      context_(context) {
+  setObjectName("frmHistory");
+  lstMoves_ = new QListWidget(this);
+  lstMoves_->setObjectName("lstMoves");
+  connect(lstMoves_, &QListWidget::currentRowChanged, this, &frmHistory::lstMoves_Click);
+  connect(&printer_, &DefaultPrinter::Finished, this, &frmHistory::PrintingFinished);
+  cmdOptionsOrUndo_ = AddButton("cmdOptionsOrUndo", &frmHistory::cmdOptionsOrUndo_Click);
+  cmdClose_ = AddButton("cmdClose", &frmHistory::cmdClose_Click);
+  AddOptions();
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(cmdOptionsOrUndo_);
+  buttons->addWidget(cmdClose_);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(lstMoves_);
+  layout->addLayout(buttons);
+  const int row = fontMetrics().height();
+  lstMoves_->setMinimumSize(ListWidthInRows * row, VisibleRows * row);
+  lstMoves_->setFocus();
+  PlaceDialog(*this, *mainWindow);
+}
+
+QPushButton* frmHistory::AddButton(const char* name, void (frmHistory::*handler)()) {
+  auto* button = new QPushButton(this);
+  button->setObjectName(name);
+  button->setAutoDefault(false);
+  connect(button, &QPushButton::clicked, this, handler);
+  return button;
+}
+
+void frmHistory::AddOptions() {
+  mnuEdit_ = new QMenu(this);
+  mnuEdit_->setObjectName("mnuEdit");
+  const auto add = [this](const char* name, const char* caption) {
+    QAction* entry = mnuEdit_->addAction(caption);
+    entry->setObjectName(name);
+    return entry;
+  };
+  connect(add("mnuEditCopy", "Copy &Moves to Clipboard"), &QAction::triggered, this,
+          &frmHistory::mnuEditCopy_Click);
+  connect(add("mnuEditExport", "&Save Moves to File..."), &QAction::triggered, this,
+          &frmHistory::mnuEditExport_Click);
+  connect(add("mnuEditPrint", "&Print Moves on Default Printer"), &QAction::triggered, this,
+          &frmHistory::mnuEditPrint_Click);
+  mnuEdit_->addSeparator();
+  add("mnuEditCancel", "&Cancel");
+}
+
+void frmHistory::ListMoves() {
+  setWindowTitle("Move History");
+  lstMoves_->setAccessibleName("Moves");
+  cmdOptionsOrUndo_->setText("&Options");
+  cmdClose_->setText("&Close");
+  FillList(MoveListLines(context_.state), QString());
+}
+
+void frmHistory::ListCommands() {
+  setWindowTitle("Command History");
+  lstMoves_->setAccessibleName("Commands");
+  cmdClose_->setText("Cancel");
+  // What is selected follows from the row that the player goes to, and from nothing else.
+  lstMoves_->setSelectionMode(QListWidget::NoSelection);
+  const CommandList commands = CommandsOf(context_.state);
+  QStringList rows;
+  for (const std::string& row : commands.rows) rows += QString::fromStdString(row);
+  FillList(rows, QString::number(commands.noChange));
+  lstMoves_->setCurrentRow(commands.noChange);
+}
+
+void frmHistory::FillList(const QStringList& rows, const QString& tag) {
+  const QSignalBlocker silence(lstMoves_);
+  lstMoves_->clear();
+  lstMoves_->setProperty(Tag, tag);
+  lstMoves_->addItems(rows);
+}
+
+bool frmHistory::ListsMoves() const {
+  return lstMoves_->property(Tag).toString().isEmpty();
+}
+
+QStringList frmHistory::Lines() const {
+  QStringList lines;
+  for (int row = 0; row < lstMoves_->count(); ++row) lines += lstMoves_->item(row)->text();
+  return lines;
+}
+
+int frmHistory::StepsToCurrentRow() const {
+  return lstMoves_->currentRow() - lstMoves_->property(Tag).toInt();
+}
+
+void frmHistory::lstMoves_Click() {
+  if (ListsMoves() || lstMoves_->currentRow() < 0) return;
+  const int steps = StepsToCurrentRow();
+  const int row = lstMoves_->currentRow();
+  const int nearest = row - steps + std::clamp(steps, -1, 1);
+  const auto at = [this](int number) { return lstMoves_->model()->index(number, 0); };
+  lstMoves_->selectionModel()->select(
+      QItemSelection(at(std::min(row, nearest)), at(std::max(row, nearest))),
+      QItemSelectionModel::ClearAndSelect);
+  cmdOptionsOrUndo_->setText(steps == 0 ? "Undo/Redo" : steps > 0 ? "Re&do" : "Un&do");
+  cmdOptionsOrUndo_->setEnabled(steps != 0);
+}
+
+void frmHistory::cmdOptionsOrUndo_Click() {
+  if (ListsMoves()) {
+    mnuEdit_->popup(cmdOptionsOrUndo_->mapToGlobal(QPoint(0, cmdOptionsOrUndo_->height())));
+  } else {
+    chosenSteps_ = StepsToCurrentRow();
+    accept();
+  }
+}
+
+void frmHistory::cmdClose_Click() {
+  close();
+}
+
+void frmHistory::mnuEditCopy_Click() {
+  QGuiApplication::clipboard()->setText(ClipboardText(Lines()));
+}
+
+void frmHistory::mnuEditExport_Click() {
+  ExportMoves(context_, Lines());
+}
+
+void frmHistory::mnuEditPrint_Click() {
+  if (printer_.IsPrinting()) return;
+  cmdOptionsOrUndo_->setEnabled(false);
+  printer_.Print("Move List", MoveListPage(Lines(), ShortVersion()));
+}
+
+void frmHistory::PrintingFinished(bool accepted) {
+  cmdOptionsOrUndo_->setEnabled(true);
+  if (!accepted) ReportPrintingFailure(context_);
+  if (closing_) QDialog::done(Rejected);
+}
+
+void frmHistory::done(int result) {
+  closing_ = printer_.IsPrinting();
+  if (!closing_) QDialog::done(result);
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QDialog>
+#include <QStringList>
+
+#include "ui/commands/CommandContext.h"
+#include "ui/support/DefaultPrinter.h"
+
+class QListWidget;
+class QMenu;
+class QPushButton;
+
+// One window with two uses: the moves of the game, to be taken along, or the commands that can be
+// undone and redone, to be gone through. The list's property "tag" holds the row of "No Change" as
+// text; it is empty in the first use.
+class frmHistory : public QDialog {
+  Q_OBJECT
+
+ public:
+  // The context outlives the window.
+  frmHistory(const CommandContext& context, QWidget* mainWindow);
+
+  // Each makes the window ready for its use.
+  void ListMoves();
+  void ListCommands();
+
+  // How many moves the player has decided to redo, or to undo (below 0). They are made when the
+  // window is closed.
+  int ChosenSteps() const { return chosenSteps_; }
+
+  void lstMoves_Click();
+  void cmdOptionsOrUndo_Click();
+  void cmdClose_Click();
+  void mnuEditCopy_Click();
+  void mnuEditExport_Click();
+  void mnuEditPrint_Click();
+
+  // Waits for a document that is on its way to the printer.
+  void done(int result) override;
+
+ private:
+  QPushButton* AddButton(const char* name, void (frmHistory::*handler)());
+  void AddOptions();
+  void FillList(const QStringList& rows, const QString& tag);
+  QStringList Lines() const;
+  bool ListsMoves() const;
+  int StepsToCurrentRow() const;
+  void PrintingFinished(bool accepted);
+
+  const CommandContext& context_;
+  DefaultPrinter printer_;
+  QListWidget* lstMoves_ = nullptr;
+  QPushButton* cmdOptionsOrUndo_ = nullptr;
+  QPushButton* cmdClose_ = nullptr;
+  QMenu* mnuEdit_ = nullptr;
+  int chosenSteps_ = 0;
+  bool closing_ = false;
+};

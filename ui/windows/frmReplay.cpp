@@ -1,0 +1,303 @@
+#include "ui/windows/frmReplay.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QTimer>
+
+#include "storage/NumberParser.h"
+
+namespace {
+
+constexpr int SlowestSpeed = 20;  // tenths of a second a move
+constexpr int SpeedLargeStep = 5;
+constexpr int SeekLargeStep = 10;
+constexpr int MillisecondsOfTenth = 100;
+constexpr const char* Tag = "tag";
+
+// A label for a value that changes fast: its size is that of the longest text.
+QLabel* AddValueLabel(QWidget* parent, const char* name, const QString& longest) {
+  auto* label = new QLabel(longest, parent);
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  label->setFixedSize(label->sizeHint());
+  return label;
+}
+
+QLabel* AddLabel(QWidget* parent, const char* name, const QString& text) {
+  auto* label = new QLabel(text, parent);
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
+QGroupBox* NewFrame(QWidget* parent, const char* name, const QString& caption) {
+  auto* frame = new QGroupBox(caption, parent);
+  frame->setObjectName(name);
+  return frame;
+}
+
+}  // namespace
+
+frmReplay::frmReplay(const CommandContext& context, QWidget* mainWindow)
+    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      context_(context),
+      tmrAdvance_(new QTimer(this)) {
+  setObjectName("frmReplay");
+  setWindowTitle("Replay");
+  tmrAdvance_->setObjectName("tmrAdvance");
+  connect(tmrAdvance_, &QTimer::timeout, this, &frmReplay::tmrAdvance_Timer);
+  auto* layout = new QVBoxLayout(this);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+  layout->addWidget(AddKnightFrame());
+  layout->addWidget(AddControlsFrame());
+  layout->addWidget(AddAdvanceFrame());
+  cmdAdvancePause_->setFocus();
+}
+
+QGroupBox* frmReplay::AddKnightFrame() {
+  QGroupBox* frame = NewFrame(this, "fraKnight", " Knight:");
+  lblMoveValue_ = AddValueLabel(frame, "lblMoveValue", "64");
+  lblPositionValue_ = AddValueLabel(frame, "lblPositionValue", "WW");
+  auto* layout = new QGridLayout(frame);
+  layout->addWidget(AddLabel(frame, "lblMove", "Move:"), 0, 0);
+  layout->addWidget(lblMoveValue_, 0, 1);
+  layout->addWidget(AddLabel(frame, "lblPosition", "Position:"), 1, 0);
+  layout->addWidget(lblPositionValue_, 1, 1);
+  layout->setColumnStretch(1, 1);
+  return frame;
+}
+
+QGroupBox* frmReplay::AddControlsFrame() {
+  QGroupBox* frame = NewFrame(this, "fraControls", " Controls:");
+  cmdRestart_ = AddButton("cmdRestart", "&Restart", &frmReplay::cmdRestart_Click);
+  cmdFinish_ = AddButton("cmdFinish", "&Finish", &frmReplay::cmdFinish_Click);
+  cmdAdvancePause_ = AddButton("cmdAdvancePause", "&Advance", &frmReplay::cmdAdvancePause_Click);
+  cmdClose_ = AddButton("cmdClose", "&Close", &frmReplay::cmdClose_Click);
+  cmdRestart_->setEnabled(false);
+  auto* layout = new QGridLayout(frame);
+  layout->addWidget(cmdRestart_, 0, 0);
+  layout->addWidget(cmdFinish_, 0, 1);
+  layout->addWidget(cmdAdvancePause_, 1, 0);
+  layout->addWidget(cmdClose_, 1, 1);
+  return frame;
+}
+
+QPushButton* frmReplay::AddButton(const char* name, const char* caption,
+                                  void (frmReplay::*handler)()) {
+  auto* button = new QPushButton(caption, this);
+  button->setObjectName(name);
+  button->setAutoDefault(false);
+  connect(button, &QPushButton::clicked, this, handler);
+  return button;
+}
+
+QGroupBox* frmReplay::AddAdvanceFrame() {
+  QGroupBox* frame = NewFrame(this, "fraAdvance", " Advancement:");
+  optAdvance_[Automatic] = AddOption(frame, "optAdvance(0)", "A&utomatic");
+  optAdvance_[Manual] = AddOption(frame, "optAdvance(1)", "&Manual");
+  lblSpeedSeek_ = AddValueLabel(frame, "lblSpeedSeek", "Speed:");
+  lblSpeedSeekValue_ = AddValueLabel(frame, "lblSpeedSeekValue", "0.1 sec.");
+  hsclSpeedSeekSet_ = new QScrollBar(Qt::Horizontal, frame);
+  hsclSpeedSeekSet_->setObjectName("hsclSpeedSeekSet");
+  hsclSpeedSeekSet_->setFocusPolicy(Qt::StrongFocus);
+  hsclSpeedSeekSet_->setRange(1, SquareCount);
+  connect(hsclSpeedSeekSet_, &QScrollBar::valueChanged, this, &frmReplay::hsclSpeedSeekSet_Change);
+  auto* layout = new QGridLayout(frame);
+  layout->addWidget(optAdvance_[Automatic], 0, 0, 1, 2);
+  layout->addWidget(optAdvance_[Manual], 1, 0, 1, 2);
+  layout->addWidget(hsclSpeedSeekSet_, 2, 0, 1, 2);
+  layout->addWidget(lblSpeedSeek_, 3, 0);
+  layout->addWidget(lblSpeedSeekValue_, 3, 1, Qt::AlignRight);
+  return frame;
+}
+
+QRadioButton* frmReplay::AddOption(QWidget* parent, const char* name, const char* caption) {
+  auto* option = new QRadioButton(caption, parent);
+  option->setObjectName(name);
+  connect(option, &QRadioButton::toggled, this, [this](bool checked) {
+    if (checked) optAdvance_Click();
+  });
+  return option;
+}
+
+void frmReplay::StartWith(int Total) {
+  replayTotal_ = std::max(Total, 1);
+  lblMoveValue_->setText("1");
+  lblMoveValue_Change();
+  const Globals& globals = context_.globals;
+  const ReplaySettings kept = ReadReplaySettings(globals.IniFile, globals.IniFilePathName);
+  hsclSpeedSeekSet_->setProperty(Tag, kept.AdvanceSpeed);
+  optAdvance_[kept.manual ? Manual : Automatic]->setChecked(true);
+  // The manual mode has just put the bar's value there.
+  hsclSpeedSeekSet_->setProperty(Tag, kept.AdvanceSpeed);
+}
+
+bool frmReplay::IsAutomatic() const {
+  return optAdvance_[Automatic]->isChecked();
+}
+
+void frmReplay::DoUpdateReplay(int Delta) {
+  StepTo({.position = ReplayPosition() + Delta});
+}
+
+void frmReplay::StepTo(const Goal& goal) {
+  if (closing_) return;
+  goal_ = {std::clamp(goal.position, 1, replayTotal_), goal.restart};
+  if (stepping_) return;
+  StepToGoal();
+  ShowPosition();
+  if (closing_) Leave();
+}
+
+void frmReplay::StepToGoal() {
+  const QScopedValueRollback stepping(stepping_, true);
+  while (StepTowardsGoal()) context_.window.DoEvents();
+  if (goal_.restart) context_.game.mnuFileRestart_Click();
+}
+
+bool frmReplay::StepTowardsGoal() {
+  const int before = ReplayPosition();
+  if (before > goal_.position) context_.game.mnuEditUndo_Click();
+  if (before < goal_.position) context_.game.mnuEditRedo_Click();
+  return ReplayPosition() != before;
+}
+
+void frmReplay::ShowPosition() {
+  lblMoveValue_->setText(QString::number(ReplayPosition()));
+  lblMoveValue_Change();
+  const bool finished = ReplayPosition() == replayTotal_;
+  if (finished) tmrAdvance_->stop();
+  cmdAdvancePause_->setEnabled(!finished);
+  cmdFinish_->setEnabled(!finished);
+  cmdRestart_->setEnabled(finished || ReplayPosition() > 1);
+  if (IsAutomatic()) return;
+  SetBar(replayTotal_, ReplayPosition(), SeekLargeStep);
+  lblSpeedSeekValue_->setText(QString::number(ReplayPosition()));
+}
+
+void frmReplay::lblMoveValue_Change() {
+  const int move = lblMoveValue_->text().toInt();
+  const MoveRow& square = context_.state.MoveList[static_cast<std::size_t>(move - 1)];
+  lblPositionValue_->setText(QString::fromStdString(SquareName(square.x, square.y)));
+}
+
+// A tick asks for nothing while the knight is walking anyway.
+void frmReplay::tmrAdvance_Timer() {
+  if (!stepping_) DoUpdateReplay(1);
+}
+
+void frmReplay::hsclSpeedSeekSet_Change() {
+  const int value = hsclSpeedSeekSet_->value();
+  if (IsAutomatic()) {
+    lblSpeedSeekValue_->setText(QString::number(value / 10.0) + " sec.");
+    tmrAdvance_->setInterval(value * MillisecondsOfTenth);
+  } else {
+    DoUpdateReplay(value - ReplayPosition());
+  }
+}
+
+// Silently: the bar changes its meaning here, and the caller runs the handler when it is done.
+void frmReplay::SetBar(int maximum, int value, int largeStep) {
+  const QSignalBlocker silence(hsclSpeedSeekSet_);
+  hsclSpeedSeekSet_->setMaximum(maximum);
+  hsclSpeedSeekSet_->setPageStep(largeStep);
+  hsclSpeedSeekSet_->setValue(value);
+}
+
+void frmReplay::optAdvance_Click() {
+  if (IsAutomatic()) {
+    BeginAutomatic();
+  } else {
+    BeginManual();
+  }
+}
+
+void frmReplay::BeginAutomatic() {
+  const double speed = LenientNumber(hsclSpeedSeekSet_->property(Tag).toString());
+  lblSpeedSeek_->setText("Speed:");
+  hsclSpeedSeekSet_->setAccessibleName("Speed");
+  SetBar(SlowestSpeed, static_cast<int>(std::lrint(speed)), SpeedLargeStep);
+  hsclSpeedSeekSet_Change();
+  cmdAdvancePause_->setText("P&ause");
+  if (cmdAdvancePause_->isEnabled()) tmrAdvance_->start();
+}
+
+void frmReplay::BeginManual() {
+  tmrAdvance_->stop();
+  hsclSpeedSeekSet_->setProperty(Tag, QString::number(hsclSpeedSeekSet_->value()));
+  lblSpeedSeek_->setText("Seek:");
+  hsclSpeedSeekSet_->setAccessibleName("Seek");
+  SetBar(replayTotal_, ReplayPosition(), SeekLargeStep);
+  hsclSpeedSeekSet_Change();
+  cmdAdvancePause_->setText("&Advance");
+}
+
+void frmReplay::Advance() {
+  tmrAdvance_->start();
+  cmdAdvancePause_->setText("P&ause");
+}
+
+void frmReplay::cmdAdvancePause_Click() {
+  if (!IsAutomatic()) {
+    DoUpdateReplay(1);
+  } else if (tmrAdvance_->isActive()) {
+    tmrAdvance_->stop();
+    cmdAdvancePause_->setText("St&art");
+  } else {
+    Advance();
+  }
+}
+
+void frmReplay::cmdFinish_Click() {
+  tmrAdvance_->stop();
+  if (IsAutomatic()) cmdAdvancePause_->setText("P&ause");
+  StepTo({.position = replayTotal_});
+}
+
+// The timer may run at once: its ticks wait until the knight is back.
+void frmReplay::cmdRestart_Click() {
+  if (IsAutomatic()) Advance();
+  StepTo({.position = 1, .restart = true});
+}
+
+void frmReplay::cmdClose_Click() {
+  close();
+}
+
+void frmReplay::done(int) {
+  tmrAdvance_->stop();
+  if (std::exchange(closing_, true)) return;
+  goal_ = {.position = ReplayPosition()};
+  if (!stepping_) Leave();
+}
+
+void frmReplay::Leave() {
+  if (cmdFinish_->isEnabled() &&
+      context_.window.Ask("End Replay", "Would you like to skip to the end?")) {
+    goal_ = {.position = replayTotal_};
+    StepToGoal();
+  }
+  SaveSettings();
+  QDialog::done(Rejected);
+}
+
+void frmReplay::SaveSettings() {
+  if (IsAutomatic()) {
+    hsclSpeedSeekSet_->setProperty(Tag, QString::number(hsclSpeedSeekSet_->value()));
+  }
+  const Globals& globals = context_.globals;
+  QString ignoredError;
+  globals.IniFile.WriteIniFileValues(
+      globals.IniFilePathName,
+      ReplayEntries({hsclSpeedSeekSet_->property(Tag).toString(), !IsAutomatic()}), ignoredError);
+}
