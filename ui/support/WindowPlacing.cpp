@@ -6,6 +6,22 @@
 #include <QScreen>
 #include <QWidget>
 
+namespace {
+
+constexpr int GapBetweenWindows = 6;
+
+// A position from lowest up, so that length fits in before end if it can.
+int Within(int position, int length, int lowest, int end) {
+  return std::max(std::min(position, end - length), lowest);
+}
+
+QPoint Within(const QRect& bounds, const QRect& screen) {
+  return {Within(bounds.left(), bounds.width(), screen.left(), screen.right() + 1),
+          Within(bounds.top(), bounds.height(), screen.top(), screen.bottom() + 1)};
+}
+
+}  // namespace
+
 QPoint CentredPosition(const QSize& dialog, const QRect& mainWindow, const QRect& screen) {
   int left = mainWindow.left() + mainWindow.width() / 2 - dialog.width() / 2;
   int top = mainWindow.top() + mainWindow.height() / 2 - dialog.height() / 2;
@@ -18,6 +34,36 @@ void PlaceDialog(QWidget& dialog, const QWidget& mainWindow) {
   dialog.adjustSize();
   dialog.move(CentredPosition(dialog.size(), mainWindow.frameGeometry(),
                               mainWindow.screen()->availableGeometry()));
+}
+
+PairPosition PositionsSideBySide(const QSize& dialog, const QRect& mainWindow,
+                                 const QRect& screen) {
+  const QRect main(Within(mainWindow, screen), mainWindow.size());
+  const int needed = dialog.width() + GapBetweenWindows;
+  const int roomLeft = main.left() - screen.left();
+  const int roomRight = screen.right() - main.right();
+  const bool toTheRight = roomRight >= needed || roomRight >= roomLeft;
+  const int missing = std::max(needed - (toTheRight ? roomRight : roomLeft), 0);
+
+  const QRect moved(Within(main.translated(toTheRight ? -missing : missing, 0), screen),
+                    main.size());
+  const int beside = toTheRight ? moved.right() + 1 + GapBetweenWindows : moved.left() - needed;
+  return {Within({{beside, moved.top()}, dialog}, screen), moved.topLeft()};
+}
+
+std::optional<QPoint> PlaceBeside(QWidget& dialog, QWidget& mainWindow) {
+  dialog.adjustSize();
+  const QRect frame = mainWindow.frameGeometry();
+  // The dialog gets its own frame only when it is shown; it will be about as thick.
+  const QSize frameSize = dialog.size() + frame.size() - mainWindow.size();
+  const PairPosition pair =
+      PositionsSideBySide(frameSize, frame, mainWindow.screen()->availableGeometry());
+  dialog.move(pair.dialog);
+  if (mainWindow.isMaximized() || mainWindow.isFullScreen() || pair.mainWindow == frame.topLeft()) {
+    return std::nullopt;
+  }
+  mainWindow.move(pair.mainWindow);
+  return frame.topLeft();
 }
 
 QRect BroughtOntoScreen(const QRect& bounds) {

@@ -1,0 +1,96 @@
+#include <QDialog>
+#include <QMainWindow>
+#include <gtest/gtest.h>
+
+#include "ui/support/WindowPlacing.h"
+
+namespace {
+
+constexpr QRect Screen(0, 0, 1000, 800);
+constexpr QSize Dialog(200, 300);
+
+QRect BoundsOfDialog(const PairPosition& pair) {
+  return {pair.dialog, Dialog};
+}
+
+}  // namespace
+
+TEST(BesideTheMainWindow, IsToTheRightWhereThereIsRoom) {
+  const QRect mainWindow(100, 50, 640, 660);
+  const PairPosition pair = PositionsSideBySide(Dialog, mainWindow, Screen);
+  EXPECT_EQ(pair.mainWindow, mainWindow.topLeft());
+  EXPECT_GT(pair.dialog.x(), mainWindow.right());
+  EXPECT_EQ(pair.dialog.y(), mainWindow.top());
+}
+
+TEST(BesideTheMainWindow, IsToTheLeftWhereOnlyTheLeftHasRoom) {
+  const QRect mainWindow(350, 50, 640, 660);
+  const PairPosition pair = PositionsSideBySide(Dialog, mainWindow, Screen);
+  EXPECT_EQ(pair.mainWindow, mainWindow.topLeft());
+  EXPECT_LT(pair.dialog.x() + Dialog.width(), mainWindow.left() + 1);
+}
+
+TEST(BesideTheMainWindow, MovesTheMainWindowToTheLeftForWantOfRoom) {
+  const PairPosition pair = PositionsSideBySide(Dialog, {160, 50, 640, 660}, Screen);
+  EXPECT_EQ(BoundsOfDialog(pair).right(), Screen.right());
+  EXPECT_LT(pair.mainWindow.x(), 160);
+  EXPECT_GT(pair.dialog.x(), pair.mainWindow.x() + 640);
+}
+
+TEST(BesideTheMainWindow, MovesTheMainWindowToTheRightForWantOfRoom) {
+  const PairPosition pair = PositionsSideBySide(Dialog, {190, 50, 640, 660}, Screen);
+  EXPECT_EQ(pair.dialog.x(), 0);
+  EXPECT_GT(pair.mainWindow.x(), 190);
+  EXPECT_LE(pair.mainWindow.x() + 640, Screen.right() + 1);
+}
+
+TEST(BesideTheMainWindow, OverlapsItOnAScreenTooNarrowForBoth) {
+  const QRect screen(0, 0, 800, 800);
+  const PairPosition pair = PositionsSideBySide(Dialog, {80, 50, 640, 660}, screen);
+  EXPECT_EQ(pair.mainWindow.x(), 0);
+  EXPECT_EQ(BoundsOfDialog(pair).right(), screen.right());
+}
+
+TEST(BesideTheMainWindow, BringsAMainWindowBackThatHangsOverTheScreensEdge) {
+  const PairPosition pair = PositionsSideBySide(Dialog, {-100, 400, 640, 660}, Screen);
+  EXPECT_EQ(pair.mainWindow, QPoint(0, 140));
+}
+
+TEST(BesideTheMainWindow, StaysOnASecondScreen) {
+  const QRect second(1000, -200, 1000, 800);
+  const PairPosition pair = PositionsSideBySide(Dialog, {1300, -100, 640, 660}, second);
+  EXPECT_TRUE(second.contains(BoundsOfDialog(pair)));
+  EXPECT_TRUE(second.contains(QRect(pair.mainWindow, QSize(640, 660))));
+}
+
+TEST(BesideTheMainWindow, KeepsTheTitleBarOfADialogTallerThanTheScreen) {
+  const PairPosition pair = PositionsSideBySide({200, 900}, {100, 50, 640, 660}, Screen);
+  EXPECT_EQ(pair.dialog.y(), 0);
+}
+
+TEST(BesideTheMainWindow, TellsWhereAMainWindowWasThatHadToMove) {
+  QMainWindow mainWindow;
+  mainWindow.setGeometry(100, 20, 640, 660);
+  QDialog dialog;
+  dialog.setFixedSize(Dialog);
+  EXPECT_EQ(PlaceBeside(dialog, mainWindow), QPoint(100, 20));
+  EXPECT_NE(mainWindow.pos(), QPoint(100, 20));
+}
+
+TEST(BesideTheMainWindow, LeavesAMaximisedMainWindowWhereItIs) {
+  QMainWindow mainWindow;
+  mainWindow.showMaximized();
+  QDialog dialog;
+  dialog.setFixedSize(Dialog);
+  EXPECT_EQ(PlaceBeside(dialog, mainWindow), std::nullopt);
+  EXPECT_TRUE(mainWindow.isMaximized());
+}
+
+TEST(BesideTheMainWindow, LeavesAMainWindowWhereItIsWithRoomForBoth) {
+  QMainWindow mainWindow;
+  mainWindow.setGeometry(10, 20, 400, 420);
+  QDialog dialog;
+  dialog.setFixedSize(Dialog);
+  EXPECT_EQ(PlaceBeside(dialog, mainWindow), std::nullopt);
+  EXPECT_EQ(mainWindow.pos(), QPoint(10, 20));
+}
