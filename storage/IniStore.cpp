@@ -1,14 +1,13 @@
 #include "storage/IniStore.h"
 
-#include <QLockFile>
+#include <QFileInfo>
 
 #include "storage/FileWriter.h"
+#include "storage/FolderLock.h"
 
 namespace {
 
 constexpr qsizetype LargestFile = 1024 * 1024;
-// A copy of the program holds the lock for milliseconds; a lock left by a killed one is broken.
-constexpr int LongestWaitMilliseconds = 2000;
 
 std::optional<ProgramError> Replace(const QString& pathName, const IniChange& change) {
   const FileContent content = ReadIniStore(pathName);
@@ -29,7 +28,7 @@ FileContent ReadIniStore(const QString& pathName) {
 }
 
 std::optional<ProgramError> UpdateIniStore(const QString& pathName, const IniChange& change) {
-  QLockFile lock(pathName + ".lock");
-  if (!lock.tryLock(LongestWaitMilliseconds)) return ProgramError::PermissionDenied;
+  FolderLock lock(QFileInfo(pathName).path());
+  if (!lock.Take()) return ProgramError::PermissionDenied;
   return Replace(pathName, change);
 }

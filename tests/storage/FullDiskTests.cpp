@@ -1,0 +1,83 @@
+#include "storage/ChessboardFile.h"
+#include "storage/FileWriter.h"
+#include "storage/GameFile.h"
+#include "storage/ScoreLists.h"
+#include "tests/storage/TestFiles.h"
+
+namespace {
+
+constexpr int DiskKilobytes = 64;
+
+}  // namespace
+
+class OnAFullDisk : public FolderTest {
+ protected:
+  // Runs the body where not one more byte can be written, beside a file "x" with the text "old".
+  void Run(const std::function<void()>& body) const {
+    const Apart outcome = RunApart(MountSmallDisk(Folder(), DiskKilobytes), [&] {
+      Put("x", "old");
+      Fill();
+      body();
+    });
+    if (outcome == Apart::NotAllowed) GTEST_SKIP() << "mounting is not allowed here";
+    EXPECT_EQ(outcome, Apart::Passed);
+  }
+
+ private:
+  void Fill() const {
+    QFile filler(PathOf("filler"));
+    EXPECT_TRUE(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    while (filler.write(QByteArray(1024, 'f')) > 0) {
+    }
+  }
+};
+
+TEST_F(OnAFullDisk, ASmallFileStaysAsItWas) {
+  Run([this] {
+    EXPECT_EQ(WriteFile(PathOf("x"), "new"), ProgramError::DiskFull);
+    EXPECT_EQ(ContentOf(PathOf("x")), "old");
+  });
+}
+
+TEST_F(OnAFullDisk, ALargeFileStaysAsItWas) {
+  Run([this] {
+    EXPECT_EQ(WriteFile(PathOf("x"), QByteArray(1000000, 'n')), ProgramError::DiskFull);
+    EXPECT_EQ(ContentOf(PathOf("x")), "old");
+  });
+}
+
+TEST_F(OnAFullDisk, NoNewFileAppears) {
+  Run([this] {
+    EXPECT_EQ(WriteFile(PathOf("y"), "new"), ProgramError::DiskFull);
+    EXPECT_EQ(Names(), QStringList({"filler", "x"}));
+  });
+}
+
+TEST_F(OnAFullDisk, AGameIsNotSavedAndTheFailureIsKnown) {
+  Run([this] {
+    EXPECT_EQ(WriteFile(PathOf("x"), FormatGame(GameState())), ProgramError::DiskFull);
+    EXPECT_EQ(ContentOf(PathOf("x")), "old");
+  });
+}
+
+TEST_F(OnAFullDisk, SettingsStayAsTheyWere) {
+  Run([this] {
+    QString error;
+    EXPECT_FALSE(clsIniFile().WriteIniFileValue(PathOf("x"), "Settings", "State", "2", error));
+    EXPECT_EQ(ContentOf(PathOf("x")), "old");
+  });
+}
+
+TEST_F(OnAFullDisk, AScoreListStaysAsItWas) {
+  Run([this] {
+    EXPECT_NE(SaveScore(PathOf("x"), {40, 100, true}, "Ann"), std::nullopt);
+    EXPECT_EQ(ContentOf(PathOf("x")), "old");
+  });
+}
+
+TEST_F(OnAFullDisk, AChessboardStaysAsItWas) {
+  Run([this] {
+    EXPECT_EQ(SaveChessboard(PathOf("x"), Settings()), ProgramError::DiskFull);
+    EXPECT_EQ(ContentOf(PathOf("x")), "old");
+  });
+}

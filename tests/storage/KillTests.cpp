@@ -1,0 +1,112 @@
+#include <csignal>
+#include <random>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "storage/FileWriter.h"
+#include "storage/ScoreLists.h"
+#include "storage/clsIniFile.h"
+#include "tests/storage/TestFiles.h"
+
+namespace {
+
+constexpr int UsualKills = 200;
+constexpr int LongestLifeMicroseconds = 3000;
+
+// A process that saves again and again until it is killed.
+pid_t StartSaving(const std::function<void()>& save) {
+  int ready[2];
+  EXPECT_EQ(pipe(ready), 0);
+  const pid_t child = fork();
+  if (child == 0) {
+    save();
+    EXPECT_EQ(write(ready[1], "!", 1), 1);
+    while (true) save();
+  }
+  close(ready[1]);
+  char signal = 0;
+  EXPECT_EQ(read(ready[0], &signal, 1), 1);
+  close(ready[0]);
+  return child;
+}
+
+}  // namespace
+
+class KilledWhileSaving : public FolderTest {
+ protected:
+  // Kills a process at chance moments of its saving and looks at what it left, as often as asked
+  // for.
+  void Run(const std::function<void()>& save, const std::function<void()>& look) {
+    const int kills = CountFrom("GALLOPADE_KILLS", UsualKills);
+    for (int kill = 0; kill < kills && !HasFailure(); ++kill) {
+      const pid_t child = StartSaving(save);
+      usleep(std::uniform_int_distribution<unsigned>(0, LongestLifeMicroseconds)(random_));
+      ::kill(child, SIGKILL);
+      waitpid(child, nullptr, 0);
+      look();
+    }
+  }
+
+ private:
+  std::mt19937 random_{1848};
+};
+
+TEST_F(KilledWhileSaving, LeavesTheOldFileOrTheNewOne) {
+  const QByteArray one(100, '1');
+  const QByteArray two(50000, '2');
+  const QString path = Put("x", one);
+  Run(
+      [&] {
+        WriteFile(path, two);
+        WriteFile(path, one);
+      },
+      [&] {
+        const QByteArray content = ContentOf(path);
+        EXPECT_TRUE(content == one || content == two) << content.size() << " bytes";
+      });
+}
+
+TEST_F(KilledWhileSaving, LeavesSettingsThatWereWrittenTogether) {
+  const QString path = Put("x.ini", "; mine\r\n[Other]\r\nKey=kept\r\n[S]\r\nA=0\r\nB=0\r\n");
+  const clsIniFile iniFile{};
+  const auto read = [&](const QString& section, const QString& key) {
+    QString value;
+    QString error;
+    EXPECT_TRUE(iniFile.ReadIniFileValue(path, section, key, value, error));
+    return value;
+  };
+  Run(
+      [&] {
+        const QString next = QString::number(read("S", "A").toInt() + 1);
+        QString error;
+        iniFile.WriteIniFileValues(path, {{"S", "A", next}, {"S", "B", next}}, error);
+      },
+      [&] {
+        EXPECT_EQ(read("S", "A"), read("S", "B"));
+        EXPECT_EQ(read("Other", "Key"), "kept");
+      });
+}
+
+TEST_F(KilledWhileSaving, LosesNoOldScore) {
+  const QString path = PathOf("Scores.dat");
+  for (std::int16_t moves = 64; moves > 59; --moves) {
+    EXPECT_EQ(SaveScore(path, {moves, 100, true}, QString("Old %1").arg(moves)), std::nullopt);
+  }
+  const ScoreRows old = ReadScores(path, "High Scores");
+  Run(
+      [&] {
+        SaveScore(path, {40, 100, true}, "New");
+      },
+      [&] {
+        const ScoreRows rows = ReadScores(path, "High Scores");
+        EXPECT_TRUE(std::equal(old.begin(), old.begin() + 5, rows.begin()));
+      });
+}
+
+TEST_F(KilledWhileSaving, DoesNotKeepTheNextOneFromWriting) {
+  const QString path = PathOf("x.ini");
+  const clsIniFile iniFile{};
+  QString error;
+  Run([&] { iniFile.WriteIniFileValue(path, "S", "Key", "1", error); },
+      [&] { EXPECT_TRUE(iniFile.WriteIniFileValue(path, "S", "Key", "2", error)); });
+}

@@ -1,0 +1,98 @@
+#include "tests/storage/TestFiles.h"
+
+#include <cstdio>
+#include <ostream>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+
+void PrintTo(const QString& text, std::ostream* out) {
+  *out << '"' << text.toStdString() << '"';
+}
+
+void PrintTo(const QByteArray& bytes, std::ostream* out) {
+  *out << testing::PrintToString(bytes.toStdString());
+}
+
+void PrintTo(ProgramError error, std::ostream* out) {
+  *out << ErrorText(error).toStdString();
+}
+
+QByteArray ContentOf(const QString& pathName) {
+  QFile file(pathName);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no such file)");
+}
+
+QString FolderTest::Put(const QString& name, const QByteArray& content) const {
+  QFile file(PathOf(name));
+  EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+  EXPECT_EQ(file.write(content), content.size());
+  return PathOf(name);
+}
+
+QStringList FolderTest::Names() const {
+  return QDir(Folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
+                                  QDir::NoDotAndDotDot);
+}
+
+std::map<QString, QString> ValuesOf(const std::vector<IniEntry>& entries) {
+  std::map<QString, QString> values;
+  for (const IniEntry& entry : entries) values[entry.section + "/" + entry.key] = entry.value;
+  return values;
+}
+
+QStringList KeysOf(const std::vector<IniEntry>& entries) {
+  QStringList keys;
+  for (const IniEntry& entry : entries) keys += entry.key;
+  return keys;
+}
+
+namespace {
+
+constexpr int NotAllowedCode = 77;
+constexpr unsigned Nobody = 65534;
+
+[[noreturn]] void RunChild(const std::function<bool()>& enter, const std::function<void()>& body) {
+  if (!enter()) _exit(NotAllowedCode);
+  body();
+  std::fflush(nullptr);
+  _exit(testing::Test::HasFailure() ? 1 : 0);
+}
+
+}  // namespace
+
+Apart RunApart(const std::function<bool()>& enter, const std::function<void()>& body) {
+  std::fflush(nullptr);
+  const pid_t child = fork();
+  if (child == 0) RunChild(enter, body);
+  int status = 0;
+  waitpid(child, &status, 0);
+  if (!WIFEXITED(status)) return Apart::Failed;
+  if (WEXITSTATUS(status) == NotAllowedCode) return Apart::NotAllowed;
+  return WEXITSTATUS(status) == 0 ? Apart::Passed : Apart::Failed;
+}
+
+bool BecomeOrdinaryUser() {
+  if (geteuid() != 0) return true;
+  return setgid(Nobody) == 0 && setuid(Nobody) == 0;
+}
+
+std::function<bool()> MountSmallDisk(const QString& folder, int kilobytes) {
+  return [folder, kilobytes] {
+    const int spaces = geteuid() == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER;
+    const std::string size = "size=" + std::to_string(kilobytes) + "k";
+    return unshare(spaces) == 0 &&
+           mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+           mount("small", QFile::encodeName(folder).constData(), "tmpfs", 0, size.c_str()) == 0;
+  };
+}
+
+int CountFrom(const char* variable, int usual) {
+  bool isNumber = false;
+  const int count = qEnvironmentVariableIntValue(variable, &isNumber);
+  return isNumber ? count : usual;
+}
