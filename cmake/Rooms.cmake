@@ -4,9 +4,9 @@ include_guard()
 add_library(gallopade_warnings INTERFACE)
 target_compile_options(gallopade_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
-  -Wcast-align -Wunused -Wduplicated-cond -Wlogical-op)
-if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
-  target_compile_options(gallopade_warnings INTERFACE -Wno-unknown-warning-option)
+  -Wcast-align -Wunused)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+  target_compile_options(gallopade_warnings INTERFACE -Wduplicated-cond -Wlogical-op)
 endif()
 if(GALLOPADE_WERROR)
   target_compile_options(gallopade_warnings INTERFACE -Werror)

@@ -58,8 +58,10 @@ struct GameState {
   // which it was working on is gone.
   std::uint32_t GameSerial = 0;
 
-  std::int16_t& Cell(int x, int y) { return Board[static_cast<std::size_t>(x + y * BoardStride)]; }
-  std::int16_t Cell(int x, int y) const {
-    return Board[static_cast<std::size_t>(x + y * BoardStride)];
+  static constexpr std::size_t CellIndex(int x, int y) {
+    const int index = x + y * BoardStride;
+    return static_cast<std::size_t>(index);
   }
+  std::int16_t& Cell(int x, int y) { return Board[CellIndex(x, y)]; }
+  std::int16_t Cell(int x, int y) const { return Board[CellIndex(x, y)]; }
 };
