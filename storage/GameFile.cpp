@@ -9,7 +9,7 @@
 namespace {
 
 // 65 lines never need more.
-constexpr qint64 LongestGame = 64 * 1024;
+constexpr qint64 LongestGame = qint64{64} * 1024;
 
 class LineReader {
  public:

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qsizetype LargestFile = 1024 * 1024;
+constexpr qsizetype LargestFile = qsizetype{1024} * 1024;
 
 std::optional<ProgramError> Replace(const QString& pathName, const IniChange& change) {
   const FileContent content = ReadIniStore(pathName);
