@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "tests/support/GameTest.h"
 
 namespace {
@@ -16,10 +18,11 @@ class EndOfGame : public GameTest {
     return game.CheckIfGameOver(row.x, row.y);
   }
   std::string LastAnnouncement() const {
-    for (auto line = window.log.rbegin(); line != window.log.rend(); ++line) {
-      if (line->starts_with("EndGame ")) return *line;
-    }
-    return "none";
+    const auto isAnnouncement = [](const std::string& line) {
+      return line.starts_with("EndGame ");
+    };
+    const auto line = std::find_if(window.log.rbegin(), window.log.rend(), isAnnouncement);
+    return line == window.log.rend() ? "none" : *line;
   }
 };
 
