@@ -4,6 +4,11 @@
 
 namespace {
 
+// A game file may name squares twice: the list of moves is then full while squares are still free.
+bool MayMoveOn(const Game& game, const GameState& state) {
+  return state.MoveCount < SquareCount && !game.CheckIfGameOver(state.KnightX, state.KnightY);
+}
+
 void MoveAtRandom(Game& game, GameState& state, GameWindow& window, Random& random) {
   const Offset offset = TourMoveOffsets[static_cast<std::size_t>(random.Below(8))];
   const int x = state.KnightX + offset.dx;
@@ -26,11 +31,11 @@ void mnuFileAutoplay_Click(Game& game, GameState& state, GameWindow& window, Ran
   }
   random.Reseed();
   state.ApplyingMoves = true;
-  while (!game.CheckIfGameOver(state.KnightX, state.KnightY) && !window.IsCloseRequested()) {
+  while (MayMoveOn(game, state) && !window.IsCloseRequested()) {
     MoveAtRandom(game, state, window, random);
   }
   state.ApplyingMoves = false;
   window.EnableClock(false);
   // A walk that was broken off leaves a game that can be played on.
-  if (game.CheckIfGameOver(state.KnightX, state.KnightY)) game.DisablePlayOn();
+  if (!MayMoveOn(game, state)) game.DisablePlayOn();
 }
