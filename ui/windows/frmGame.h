@@ -1,8 +1,11 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include <QMainWindow>
+#include <QPoint>
+#include <QRect>
 #include <QSize>
 
 #include "core/Game.h"
@@ -99,10 +102,13 @@ class frmGame : public QMainWindow, public MainWindow {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
 
  private:
   void ConnectBoard();
   void CloseAsRequested();
+  bool IsNormal() const;
+  QRect NormalBounds() const;
   bool SnapToMinimumHeight();
   void MakeInnerAreaSquare();
   void ApplyPlacement(const WindowPlacement& placement);
@@ -122,5 +128,9 @@ class frmGame : public QMainWindow, public MainWindow {
   int works_ = 0;
   bool closeRequested_ = false;
   bool resizePending_ = false;
+  QRect placedBounds_;  // where the window was put before it was shown
+  // From the corner of the window manager's frame to the window's own; known once the window has
+  // been seen in its normal state.
+  std::optional<QPoint> decoration_;
   QSize sizeBeforeSquaring_;  // the size that was last asked to change, invalid when it did
 };

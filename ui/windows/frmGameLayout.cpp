@@ -62,10 +62,10 @@ void frmGame::ApplyPlacement(const WindowPlacement& placement) {
   const QSize size(std::max(PixelFrom(placement.Width, designedSide), 1),
                    std::max(PixelFrom(placement.Height, designedSide + menuHeight), 1));
   const QPoint centred = available.center() - QPoint(size.width() / 2, size.height() / 2);
-  const QRect bounds = BroughtOntoScreen(
+  placedBounds_ = BroughtOntoScreen(
       {{PixelFrom(placement.Left, centred.x()), PixelFrom(placement.Top, centred.y())}, size});
-  move(bounds.topLeft());
-  resize(bounds.size());
+  move(placedBounds_.topLeft());
+  resize(placedBounds_.size());
   if (placement.State == Maximised) setWindowState(windowState() | Qt::WindowMaximized);
 }
 
@@ -77,16 +77,29 @@ bool frmGame::IsMinimised() const {
   return isMinimized();
 }
 
+bool frmGame::IsNormal() const {
+  return !isMaximized() && !isMinimized() && !isFullScreen();
+}
+
+// The frame's corner and the window's own size: what a window is moved and resized by.
+QRect frmGame::NormalBounds() const {
+  if (IsNormal()) return {pos(), size()};
+  if (!decoration_) return placedBounds_;
+  return {normalGeometry().topLeft() - *decoration_, normalGeometry().size()};
+}
+
 WindowPlacement frmGame::Placement() const {
-  const bool normal = !isMaximized() && !isMinimized() && !isFullScreen();
-  const QPoint decoration = geometry().topLeft() - pos();
-  const QPoint corner = normal ? pos() : normalGeometry().topLeft() - decoration;
-  const QSize size = normal ? this->size() : normalGeometry().size();
-  return {.Left = TwipsFromPixels(corner.x()),
-          .Top = TwipsFromPixels(corner.y()),
-          .Height = TwipsFromPixels(size.height()),
-          .Width = TwipsFromPixels(size.width()),
+  const QRect bounds = NormalBounds();
+  return {.Left = TwipsFromPixels(bounds.left()),
+          .Top = TwipsFromPixels(bounds.top()),
+          .Height = TwipsFromPixels(bounds.height()),
+          .Width = TwipsFromPixels(bounds.width()),
           .State = isMaximized() ? Maximised : 0};
+}
+
+void frmGame::moveEvent(QMoveEvent* event) {
+  QMainWindow::moveEvent(event);
+  if (isVisible() && IsNormal()) decoration_ = geometry().topLeft() - pos();
 }
 
 void frmGame::changeEvent(QEvent* event) {
