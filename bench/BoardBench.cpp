@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QTemporaryDir>
 #include <QTimer>
-
 #include <benchmark/benchmark.h>
 
 #include "core/Square.h"

@@ -21,8 +21,8 @@ struct Row {
 std::vector<Row> RowsOf(const QMenu& menu) {
   std::vector<Row> rows;
   for (const QAction* action : menu.actions()) {
-    const QString name = action->menu() == nullptr ? action->objectName()
-                                                   : action->menu()->objectName();
+    const QString name =
+        action->menu() == nullptr ? action->objectName() : action->menu()->objectName();
     rows.push_back({name, action->text(), action->shortcut().toString()});
   }
   return rows;
