@@ -226,7 +226,7 @@ TEST_F(NameEntry, IsSelectedWhenTheKeyboardComesBackToIt) {
   Open();
   SubmitAGame([](frmScores& scores) {
     TypeName(scores, "Ann");
-    scores.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&scores));
     Child<QPushButton>(scores, "cmdClose").setFocus(Qt::TabFocusReason);
     BoxOf(scores).deselect();
     BoxOf(scores).setFocus(Qt::BacktabFocusReason);
@@ -239,7 +239,7 @@ TEST_F(NameEntry, IsSelectedWhenItIsClickedFromElsewhere) {
   Open();
   SubmitAGame([](frmScores& scores) {
     TypeName(scores, "Ann");
-    scores.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&scores));
     Child<QPushButton>(scores, "cmdClose").setFocus(Qt::TabFocusReason);
     QTest::mouseClick(&BoxOf(scores), Qt::LeftButton);
     QCoreApplication::processEvents();

@@ -16,7 +16,7 @@ constexpr int ColumnGap = 14;
 constexpr int RowGap = 7;
 constexpr double RowFontScale = 1.2;
 constexpr double CornerRadius = 4;
-constexpr double Opacity = 0.88;
+constexpr double Opacity = 0.9;
 constexpr double LineOpacity = 0.3;
 
 constexpr Qt::Alignment AlignmentOf(int column) {
