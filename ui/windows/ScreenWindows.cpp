@@ -1,18 +1,37 @@
 #include "ui/windows/ScreenWindows.h"
 
+#include "ui/commands/CommandHistory.h"
 #include "ui/support/Firework.h"
+#include "ui/support/WindowPlacing.h"
 #include "ui/windows/frmGame.h"
 #include "ui/windows/frmGameOver.h"
+#include "ui/windows/frmHistory.h"
+#include "ui/windows/frmReplay.h"
 #include "ui/windows/frmScores.h"
 #include "ui/windows/frmWin.h"
 
 void ScreenWindows::ShowSolve(int) {}
 
-void ScreenWindows::ShowReplay(int) {}
+void ScreenWindows::ShowReplay(int total) {
+  frmReplay window(mainWindow_.Context(), &mainWindow_);
+  const std::optional<QPoint> formerPosition = PlaceBeside(window, mainWindow_);
+  window.StartWith(total);
+  window.exec();
+  if (formerPosition) mainWindow_.move(*formerPosition);
+}
 
-void ScreenWindows::ShowMoveHistory() {}
+void ScreenWindows::ShowMoveHistory() {
+  frmHistory window(mainWindow_.Context(), &mainWindow_);
+  window.ListMoves();
+  window.exec();
+}
 
-void ScreenWindows::ShowCommandHistory() {}
+void ScreenWindows::ShowCommandHistory() {
+  frmHistory window(mainWindow_.Context(), &mainWindow_);
+  window.ListCommands();
+  window.exec();
+  StepThroughCommands(mainWindow_.Context(), window.ChosenSteps());
+}
 
 void ScreenWindows::ShowWin() {
   frmWin window(HasManyColors(*mainWindow_.screen()), &mainWindow_);
