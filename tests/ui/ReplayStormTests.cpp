@@ -1,0 +1,98 @@
+#include <array>
+#include <random>
+
+#include "tests/ui/ReplayTest.h"
+
+namespace {
+
+constexpr int Actions = 50'000;
+constexpr int ActionsOfSession = 200;
+constexpr std::array<int, 6> GameLengths{1, 2, 3, 9, 20, 40};
+
+// A player who presses, drags and closes at random, also while the knight is walking.
+class ReplayStorm : public ReplayTest {
+ protected:
+  int Below(int count) { return std::uniform_int_distribution<int>(0, count - 1)(random_); }
+
+  // Sometimes there are moves to redo beyond the end of the replay.
+  int BeginAnyGame() {
+    state = GameState{};
+    Begin(static_cast<std::int16_t>(Below(2)));
+    PlayTour(game, GameLengths[static_cast<std::size_t>(Below(6))]);
+    for (int undos = Below(3); undos > 0 && state.MoveCount > 2; --undos) game.mnuEditUndo_Click();
+    return state.MoveCount;
+  }
+
+  void Act(frmReplay& replay) {
+    const Shown shown(replay);
+    switch (Below(12)) {
+      case 0:
+      case 1:
+      case 2:
+        return replay.tmrAdvance_Timer();
+      case 3:
+      case 4:
+        return shown.Bar().setValue(1 + Below(shown.Bar().maximum()));
+      case 5:
+        return shown.Button("cmdAdvancePause").click();
+      case 6:
+        return shown.Button("cmdRestart").click();
+      case 7:
+        return shown.Button("cmdFinish").click();
+      case 8:
+        return shown.Automatic().click();
+      case 9:
+        return shown.Manual().click();
+      case 10:
+        return shown.Bar().triggerAction(QAbstractSlider::SliderPageStepAdd);
+      default:
+        if (Below(20) == 0) shown.Button("cmdClose").click();
+    }
+  }
+
+  // In the middle of a walk: nothing may move the knight but the walk itself.
+  void ActOnTheWay(frmReplay& replay) {
+    if (Below(4) != 0) return;
+    ++actions_;
+    const int before = state.MoveCount;
+    Act(replay);
+    EXPECT_EQ(state.MoveCount, before);
+  }
+
+  void RunSession(frmReplay& replay, int total) {
+    window.onDoEvents = [&] { ActOnTheWay(replay); };
+    for (int i = 0; i < ActionsOfSession && replay.isVisible(); ++i) {
+      ++actions_;
+      Act(replay);
+      window.log.clear();
+      ASSERT_GE(state.MoveCount, 1);
+      ASSERT_LE(state.MoveCount, total);
+      if (!replay.isVisible()) break;
+      ASSERT_TRUE(Agrees(replay)) << "after " << actions_ << " actions";
+      ASSERT_EQ(Shown(replay).IsOn("cmdAdvancePause"), Shown(replay).IsOn("cmdFinish"));
+    }
+    window.onDoEvents = nullptr;
+  }
+
+  int actions_ = 0;
+
+ private:
+  std::mt19937 random_{20260117};
+};
+
+}  // namespace
+
+TEST_F(ReplayStorm, LeavesPositionBoardAndListInAgreement) {
+  while (actions_ < Actions && !HasFatalFailure()) {
+    const int total = BeginAnyGame();
+    const auto rows = state.MoveList;
+    window.answers = {Below(2) == 0 ? PlayerSays::Yes : PlayerSays::No};
+    Watch([&](frmReplay& replay) {
+      RunSession(replay, total);
+      window.answers.clear();
+    });
+    ASSERT_EQ(state.MoveList, rows);
+    ASSERT_FALSE(state.ApplyingMoves);
+    ASSERT_TRUE(window.IsClockEnabled());
+  }
+}
