@@ -1,5 +1,17 @@
 #include "tests/ui/RecordingMainWindow.h"
 
+namespace {
+
+template <typename Answer>
+std::optional<Answer> Next(std::deque<Answer>& answers) {
+  if (answers.empty()) return std::nullopt;
+  const Answer answer = answers.front();
+  answers.pop_front();
+  return answer;
+}
+
+}  // namespace
+
 void RecordingWindows::Show(const std::string& window, const std::string& details) {
   log_.push_back("show " + window + (details.empty() ? "" : " " + details));
   if (onShow) onShow(window);
@@ -31,8 +43,17 @@ ScoresAnswer RecordingWindows::ShowScores(ScoreList list, std::optional<Finished
 QString RecordingDialogs::Choose(const std::string& purpose, const FileQuestion& question) {
   log_.push_back(purpose + " " + question.directory.toStdString() + "|" +
                  question.filter.toStdString());
-  if (paths.empty()) return {};
-  const QString path = paths.front();
-  paths.pop_front();
-  return path;
+  return Next(paths).value_or(QString());
+}
+
+std::optional<QColor> RecordingDialogs::ChooseColor(const QColor& initial) {
+  log_.push_back("color " + initial.name().toStdString());
+  return Next(colors);
+}
+
+std::optional<QString> RecordingDialogs::InputBox(const QString& title, const QString& prompt,
+                                                  const QString& prefilled) {
+  log_.push_back("input " + title.toStdString() + "|" + prompt.toStdString() + "|" +
+                 prefilled.toStdString());
+  return Next(inputs);
 }

@@ -51,16 +51,21 @@ class RecordingWindows : public SecondaryWindows {
   Steps& log_;
 };
 
-// File dialogs without dialogs: each is written down and gives the next path that the test has
-// arranged; without one it is cancelled.
+// Common dialogs without dialogs: each is written down and gives the next answer of its kind that
+// the test has arranged; without one it is cancelled.
 class RecordingDialogs : public Dialogs {
  public:
   explicit RecordingDialogs(Steps& log) : log_(log) {}
 
   std::deque<QString> paths;
+  std::deque<QColor> colors;
+  std::deque<QString> inputs;
 
   QString OpenFile(const FileQuestion& question) override { return Choose("open", question); }
   QString SaveFile(const FileQuestion& question) override { return Choose("save", question); }
+  std::optional<QColor> ChooseColor(const QColor& initial) override;
+  std::optional<QString> InputBox(const QString& title, const QString& prompt,
+                                  const QString& prefilled) override;
 
  private:
   QString Choose(const std::string& purpose, const FileQuestion& question);

@@ -1,5 +1,44 @@
 #include "ui/commands/ChessboardFiles.h"
 
-void mnuEditChessboardOpen_Click(const CommandContext&) {}
+#include "storage/ChessboardFile.h"
 
-void mnuEditChessboardSave_Click(const CommandContext&) {}
+namespace {
+
+const QString ChessboardFilter =
+    "Gallopade Nova Chessboards (*.chessboard;*.che)|*.chessboard;*.che|All Files (*.*)|*.*";
+
+void StoreEverything(const CommandContext& context) {
+  const Globals& globals = context.globals;
+  std::vector<IniEntry> entries = ChessboardEntries(globals.settings);
+  const std::vector<IniEntry> rest =
+      ExitEntries(globals.settings, context.window.Placement(), context.window.IsMinimised());
+  entries.insert(entries.end(), rest.begin(), rest.end());
+  QString ignoredError;
+  globals.IniFile.WriteIniFileValues(globals.IniFilePathName, entries, ignoredError);
+}
+
+}  // namespace
+
+void mnuEditChessboardOpen_Click(const CommandContext& context) {
+  const ClockPause pause(context);
+  Settings& settings = context.globals.settings;
+  QString& directory = settings.PreferencesPreviousDirectory;
+  const QString fileName = context.dialogs.OpenFile({directory, ChessboardFilter});
+  if (fileName.isEmpty()) return;
+  directory = DirectoryOf(fileName);
+  LoadChessboard(context.globals.IniFile, fileName, settings);
+  StoreEverything(context);
+  context.window.LoadGameSetup();
+  context.window.RefreshHighlight();
+  context.window.RepaintWholeBoard();
+  context.window.Form_Resize();
+}
+
+void mnuEditChessboardSave_Click(const CommandContext& context) {
+  const ClockPause pause(context);
+  QString& directory = context.globals.settings.PreferencesPreviousDirectory;
+  const QString fileName = context.dialogs.SaveFile({directory, ChessboardFilter});
+  if (fileName.isEmpty()) return;
+  directory = DirectoryOf(fileName);
+  SaveChessboard(fileName, context.globals.settings);
+}

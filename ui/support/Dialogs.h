@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+
+#include <QColor>
 #include <QString>
 
 // What a file dialog is asked for. directory: where it starts; filter: pairs of visible text and
@@ -22,4 +25,9 @@ class Dialogs {
   // exist, and the player has then agreed to overwrite it.
   virtual QString OpenFile(const FileQuestion& question) = 0;
   virtual QString SaveFile(const FileQuestion& question) = 0;
+
+  // Nothing when cancelled.
+  virtual std::optional<QColor> ChooseColor(const QColor& initial) = 0;
+  virtual std::optional<QString> InputBox(const QString& title, const QString& prompt,
+                                          const QString& prefilled) = 0;
 };

@@ -6,14 +6,22 @@
 
 namespace {
 
-QImage Read(const QString& pathName, bool byContent) {
-  QImageReader reader(pathName);
-  reader.setDecideFormatFromContent(byContent);
-  const QSize size = reader.size();
-  if (size.width() > MaximumPictureSide || size.height() > MaximumPictureSide) return {};
-  const QImage image = reader.read();
-  const bool tooLarge = image.width() > MaximumPictureSide || image.height() > MaximumPictureSide;
-  return tooLarge ? QImage() : image;
+// The largest picture without any compression, with room for its header.
+constexpr qint64 MaximumFileBytes = 4LL * MaximumPictureSide * MaximumPictureSide + 65536;
+
+// The toolkit reads more, but not all of it is safe to read from a stranger's file.
+bool IsPictureFormat(const QByteArray& format) {
+  const QList<QByteArray> formats{"bmp", "dib", "jpeg", "jpg", "gif", "ico", "cur", "png"};
+  return formats.contains(format);
+}
+
+QByteArray FormatOf(const QString& pathName) {
+  const QByteArray told = QImageReader::imageFormat(pathName);
+  return told.isEmpty() ? QFileInfo(pathName).suffix().toLower().toLatin1() : told;
+}
+
+bool IsTooLarge(const QSize& size) {
+  return size.width() > MaximumPictureSide || size.height() > MaximumPictureSide;
 }
 
 }  // namespace
@@ -22,7 +30,13 @@ QImage LoadPicture(const QString& name, const QString& programDirectory) {
   if (name.isEmpty()) return {};
   const QString pathName = QDir(programDirectory).absoluteFilePath(name);
   // Only ordinary files: a pipe or a device would never come to an end.
-  if (!QFileInfo(pathName).isFile()) return {};
-  const QImage image = Read(pathName, true);
-  return image.isNull() ? Read(pathName, false) : image;
+  const QFileInfo file(pathName);
+  if (!file.isFile() || file.size() > MaximumFileBytes) return {};
+  const QByteArray format = FormatOf(pathName);
+  if (!IsPictureFormat(format)) return {};
+  QImageReader reader(pathName, format);
+  reader.setAutoDetectImageFormat(false);
+  if (IsTooLarge(reader.size())) return {};
+  const QImage image = reader.read();
+  return IsTooLarge(image.size()) ? QImage() : image;
 }

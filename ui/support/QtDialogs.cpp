@@ -1,9 +1,11 @@
 #include "ui/support/QtDialogs.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
 #include <QMessageBox>
 
 QWidget* QtDialogs::Parent() const {
@@ -31,6 +33,22 @@ QString QtDialogs::SaveFile(const FileQuestion& question) {
          MessageIcon::Exclamation);
   }
   return {};
+}
+
+std::optional<QColor> QtDialogs::ChooseColor(const QColor& initial) {
+  QColorDialog dialog(initial, Parent());
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return dialog.selectedColor();
+}
+
+std::optional<QString> QtDialogs::InputBox(const QString& title, const QString& prompt,
+                                           const QString& prefilled) {
+  QInputDialog dialog(Parent());
+  dialog.setWindowTitle(title);
+  dialog.setLabelText(prompt);
+  dialog.setTextValue(prefilled);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return dialog.textValue();
 }
 
 bool QtDialogs::Ask(const QString& title, const QString& text, DefaultAnswer defaultAnswer) {

@@ -12,6 +12,9 @@ class QtDialogs : public Dialogs {
 
   QString OpenFile(const FileQuestion& question) override;
   QString SaveFile(const FileQuestion& question) override;
+  std::optional<QColor> ChooseColor(const QColor& initial) override;
+  std::optional<QString> InputBox(const QString& title, const QString& prompt,
+                                  const QString& prefilled) override;
 
   bool Ask(const QString& title, const QString& text, DefaultAnswer defaultAnswer);
   void Tell(const QString& title, const QString& text, MessageIcon icon);

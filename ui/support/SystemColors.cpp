@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <optional>
+#include <vector>
 
 namespace {
 
@@ -40,25 +42,60 @@ constexpr std::array<SystemColorSource, SystemColorCount> Sources{{
     {QPalette::ToolTipBase, 0xFFFFE1},      // 24 tooltip background
 }};
 
-// The three shades that colour the squares by default. A palette's own shades may all be one dark
-// grey, so they are taken from the button's colour, brought into a range in which they differ.
-std::optional<double> ShadeOf(std::uint32_t index) {
-  switch (index) {
-    case 0x16:
-      return 1.0;
-    case 0x10:
-      return 0.6;
-    case 0x15:
-      return 0.3;
-    default:
-      return std::nullopt;
-  }
+// The five states of a square have these colours by default, and a player must be able to tell them
+// apart on every desktop.
+constexpr std::uint32_t LightShade = 0x16;
+constexpr std::uint32_t DarkShade = 0x10;
+constexpr std::uint32_t VisitedShade = 0x15;
+constexpr std::uint32_t Knight = 0x0D;
+constexpr std::uint32_t Highlight = 0x18;
+
+// The sum of the differences of red, green and blue.
+constexpr int LeastDifference = 60;
+
+bool AreApart(const QColor& one, const QColor& other) {
+  return std::abs(one.red() - other.red()) + std::abs(one.green() - other.green()) +
+             std::abs(one.blue() - other.blue()) >=
+         LeastDifference;
 }
 
-QColor Shade(const QColor& button, double share) {
+// Light, dark and visited. A palette's own shades may all be one dark grey, so these are taken from
+// the button's colour, brought into a range in which they differ.
+std::vector<QColor> Shades(const QPalette& palette) {
+  const QColor button = palette.color(QPalette::Active, QPalette::Button);
   const float lightness = std::clamp(button.lightnessF(), 0.5F, 0.86F);
-  return QColor::fromHslF(std::max(button.hslHueF(), 0.0F), button.hslSaturationF(),
-                          lightness * static_cast<float>(share));
+  const float hue = std::max(button.hslHueF(), 0.0F);
+  std::vector<QColor> shades;
+  for (const float share : {1.0F, 0.6F, 0.3F}) {
+    shades.push_back(QColor::fromHslF(hue, button.hslSaturationF(), lightness * share));
+  }
+  return shades;
+}
+
+QColor Plain(std::uint32_t index, const QPalette& palette) {
+  const SystemColorSource& source = Sources[index];
+  return source.role ? palette.color(QPalette::Active, *source.role) : QColor(source.classic);
+}
+
+// The desktop's colour, or the first of others that is apart from all that are taken. Those
+// others are so unlike each other that one is always left.
+QColor ApartFrom(const std::vector<QColor>& taken, const QColor& color) {
+  for (const QColor& candidate :
+       {color, QColor(0x0A246A), QColor(0xFFFFE1), QColor(0xD03A2B), QColor(0x2E9E4F)}) {
+    const auto isApart = [&](const QColor& other) { return AreApart(candidate, other); };
+    if (std::all_of(taken.begin(), taken.end(), isApart)) return candidate;
+  }
+  return color;
+}
+
+QColor ResolveSystemColor(std::uint32_t index, const QPalette& palette) {
+  std::vector<QColor> states = Shades(palette);
+  if (index == LightShade) return states[0];
+  if (index == DarkShade) return states[1];
+  if (index == VisitedShade) return states[2];
+  if (index != Knight && index != Highlight) return Plain(index, palette);
+  states.push_back(ApartFrom(states, Plain(Knight, palette)));
+  return index == Knight ? states.back() : ApartFrom(states, Plain(Highlight, palette));
 }
 
 }  // namespace
@@ -67,10 +104,7 @@ QColor ResolveColor(Color color, const QPalette& palette) {
   const auto bits = static_cast<std::uint32_t>(color);
   if (color < 0) {
     const std::uint32_t index = bits & 0x7FFFFFFFU;
-    if (index >= SystemColorCount) return Qt::black;
-    if (const auto share = ShadeOf(index)) return Shade(palette.color(QPalette::Button), *share);
-    const SystemColorSource& source = Sources[index];
-    return source.role ? palette.color(QPalette::Active, *source.role) : QColor(source.classic);
+    return index < SystemColorCount ? ResolveSystemColor(index, palette) : Qt::black;
   }
   return {static_cast<int>(bits & 0xFFU), static_cast<int>((bits >> 8U) & 0xFFU),
           static_cast<int>((bits >> 16U) & 0xFFU)};

@@ -3,10 +3,12 @@
 #include "ui/commands/CommandHistory.h"
 #include "ui/support/Firework.h"
 #include "ui/support/WindowPlacing.h"
+#include "ui/windows/frmAbout.h"
 #include "ui/windows/frmGame.h"
 #include "ui/windows/frmGameOver.h"
 #include "ui/windows/frmHistory.h"
 #include "ui/windows/frmReplay.h"
+#include "ui/windows/frmPreferences.h"
 #include "ui/windows/frmScores.h"
 #include "ui/windows/frmWin.h"
 
@@ -56,6 +58,13 @@ ScoresAnswer ScreenWindows::ShowScores(ScoreList list, std::optional<FinishedGam
   return static_cast<ScoresAnswer>(window.exec());
 }
 
-void ScreenWindows::ShowPreferences() {}
+void ScreenWindows::ShowPreferences() {
+  frmPreferences window(mainWindow_.Context(), &mainWindow_);
+  window.exec();
+}
 
-void ScreenWindows::ShowAbout() {}
+void ScreenWindows::ShowAbout() {
+  frmAbout window(mainWindow_.Context().globals, HasManyColors(*mainWindow_.screen()),
+                  &mainWindow_);
+  window.exec();
+}

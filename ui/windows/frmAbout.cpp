@@ -1,0 +1,209 @@
+#include "ui/windows/frmAbout.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+
+#include "core/NumberText.h"
+#include "ui/support/Firework.h"
+#include "ui/support/Pictures.h"
+#include "ui/support/Version.h"
+#include "ui/support/WindowPlacing.h"
+
+namespace {
+
+const QString Title = "Gallopade Nova";
+const QString Initials = "PVX";
+const QString BuildStamp = "050216-1945";
+constexpr QPointF WordPlaces[] = {{100, 600}, {170, 1300}, {650, 2000}};
+
+const QString Disclaimer =
+    "This software and the files that come with it are provided \"as is\", without warranties of "
+    "any kind, express or implied. Whoever uses them does so at their own risk.";
+const QString Owner = "Made by the Gallopade Nova contributors. MIT licence.";
+
+constexpr QSize PictureSize(300, 225);
+constexpr int TextWidth = 300;
+constexpr int Gap = 16;
+constexpr int IconSide = 128;
+// A pass costs a fraction of a millisecond, so this leaves nearly all of a core to others.
+constexpr int DrawIntervalMilliseconds = 40;
+
+QString VersionText() {
+  const Version version = ProgramVersion();
+  return "Version" + QString::fromStdString(NumberText(version.major)) + "." +
+         QString::number(version.minor) + " (Build" +
+         QString::fromStdString(NumberText(version.revision)) + ".32bit." + BuildStamp + ")";
+}
+
+// Of a colour part that is 256 only 255 fits.
+int ColorPart(int step) {
+  return std::min(step * 128, 255);
+}
+
+QFrame* NewLine(const char* name, QPalette::ColorRole role, QWidget* parent) {
+  auto* line = new QFrame(parent);
+  line->setObjectName(name);
+  line->setFixedHeight(1);
+  line->setAutoFillBackground(true);
+  line->setBackgroundRole(role);
+  return line;
+}
+
+}  // namespace
+
+frmAbout::frmAbout(const Globals& globals, bool manyColors, QWidget* mainWindow)
+    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      globals_(globals),
+      picAboutImage_(new FireworkView(this)),
+      ManyColors_(manyColors) {
+  setObjectName("frmAbout");
+  setWindowTitle("About " + Title);
+  picAboutImage_->setObjectName("picAboutImage");
+  picAboutImage_->setAccessibleName("Picture of " + Title);
+  picAboutImage_->setFixedSize(PictureSize);
+  picAboutImage_->installEventFilter(this);
+  auto* cmdOK = new QPushButton("OK", this);
+  cmdOK->setObjectName("cmdOK");
+  cmdOK->setDefault(true);
+  connect(cmdOK, &QPushButton::clicked, this, &frmAbout::cmdOK_Click);
+  animation_.setInterval(DrawIntervalMilliseconds);
+  connect(&animation_, &QTimer::timeout, this, &frmAbout::Animate);
+
+  auto* layout = new QGridLayout(this);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+  layout->setContentsMargins(Gap, Gap, Gap, Gap);
+  layout->setHorizontalSpacing(Gap);
+  layout->setVerticalSpacing(Gap);
+  layout->addWidget(picAboutImage_, 0, 0, Qt::AlignTop);
+  layout->addLayout(AddTexts(), 0, 1);
+  layout->addWidget(cmdOK, 1, 0, 1, 2, Qt::AlignRight);
+  Form_Load();
+  PlaceDialog(*this, *mainWindow);
+}
+
+QVBoxLayout* frmAbout::AddTexts() {
+  auto* layout = new QVBoxLayout;
+  layout->addWidget(AddLabel("lblProgramTitle", Title, 20));
+  lblVersion_ = AddLabel("lblVersion", QString(), 10);
+  layout->addWidget(lblVersion_);
+  layout->addSpacing(Gap / 2);
+  layout->addWidget(AddLine());
+  layout->addSpacing(Gap / 2);
+  layout->addWidget(AddLabel("lblDisclaimer", Disclaimer, 9));
+  layout->addStretch();
+  layout->addWidget(AddLabel("lblOwner", Owner, 9));
+  return layout;
+}
+
+QLabel* frmAbout::AddLabel(const char* name, const QString& text, int points) {
+  auto* label = new QLabel(text, this);
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  label->setFont(QFont("Arial", points));
+  label->setWordWrap(true);
+  label->setFixedWidth(TextWidth);
+  return label;
+}
+
+// Two lines side by side look engraved.
+QWidget* frmAbout::AddLine() {
+  auto* line = new QWidget(this);
+  auto* layout = new QVBoxLayout(line);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(NewLine("fraLine", QPalette::Mid, line));
+  layout->addWidget(NewLine("fraxpLine", QPalette::Light, line));
+  return line;
+}
+
+void frmAbout::Form_Load() {
+  ShowPicture();
+  lblVersion_->setText(VersionText());
+}
+
+void frmAbout::ShowPicture() {
+  picAboutImage_->Clear(palette().color(QPalette::Window), PictureOrIcon());
+}
+
+// In the proportions of the picture box, with the picture in the middle of it.
+QPixmap frmAbout::PictureOrIcon() const {
+  QPixmap canvas(PictureSize * devicePixelRatioF());
+  canvas.setDevicePixelRatio(devicePixelRatioF());
+  canvas.fill(palette().color(QPalette::Window));
+  const QRect all(QPoint(), PictureSize);
+  QPainter painter(&canvas);
+  const QImage picture = LoadPicture(globals_.settings.AboutImage, globals_.ProgramDirectory);
+  if (picture.isNull()) {
+    QRect middle(0, 0, IconSide, IconSide);
+    middle.moveCenter(all.center());
+    parentWidget()->windowIcon().paint(&painter, middle);
+  } else {
+    const QImage fitting =
+        picture.scaled(canvas.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    QRect place(QPoint(), fitting.size() / devicePixelRatioF());
+    place.moveCenter(all.center());
+    painter.drawImage(place, fitting);
+  }
+  return canvas;
+}
+
+void frmAbout::picAboutImage_DblClick() {
+  if (AnimationRunning_) return;
+  AnimationRunning_ = true;
+  random_.Reseed();
+  animation_.start();
+}
+
+void frmAbout::Animate() {
+  if (picAboutImage_->IsBlurred()) ShowPicture();
+  DrawInitials();
+  DrawTitle();
+}
+
+// The point still has the colour of what was drawn last.
+void frmAbout::DrawInitials() {
+  picAboutImage_->SetPoint(picAboutImage_->RandomPlace(random_), drawingColor_);
+  drawingColor_ = NextColor();
+  picAboutImage_->Print(Initials, FireworkFont(20, false, false), drawingColor_);
+}
+
+void frmAbout::DrawTitle() {
+  drawingColor_ = ManyColors_ ? Qt::yellow : Qt::blue;
+  const QStringList words = Title.split(' ');
+  for (qsizetype i = 0; i < words.size(); ++i) {
+    picAboutImage_->SetPoint(WordPlaces[i], drawingColor_);
+    picAboutImage_->Print(words[i], FireworkFont(37, false, false), drawingColor_);
+  }
+}
+
+QColor frmAbout::NextColor() {
+  if (!ManyColors_) return RandomPaletteColor(random_);
+  const int red = ColorPart(random_.Below(3));
+  const int green = ColorPart(random_.Below(2));
+  const int blue = ColorPart(random_.Below(2));
+  return {red, green, blue};
+}
+
+void frmAbout::cmdOK_Click() {
+  accept();
+}
+
+void frmAbout::Form_Unload() {
+  AnimationRunning_ = false;
+  animation_.stop();
+}
+
+void frmAbout::done(int result) {
+  Form_Unload();
+  QDialog::done(result);
+}
+
+bool frmAbout::eventFilter(QObject* watched, QEvent* event) {
+  const bool doubleClick =
+      watched == picAboutImage_ && event->type() == QEvent::MouseButtonDblClick;
+  if (doubleClick) picAboutImage_DblClick();
+  return doubleClick || QDialog::eventFilter(watched, event);
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QDialog>
+#include <QTimer>
+
+#include "app/Globals.h"
+#include "core/Random.h"
+
+class FireworkView;
+class QLabel;
+class QVBoxLayout;
+
+// Tells what the program is. A double-click on its picture starts an animation, which runs until
+// the window is closed.
+class frmAbout : public QDialog {
+  Q_OBJECT
+
+ public:
+  // manyColors: the screen has more than a palette of 256.
+  frmAbout(const Globals& globals, bool manyColors, QWidget* mainWindow);
+
+  void picAboutImage_DblClick();
+  void cmdOK_Click();
+
+  void done(int result) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void Form_Load();
+  void Form_Unload();
+  QVBoxLayout* AddTexts();
+  QLabel* AddLabel(const char* name, const QString& text, int points);
+  QWidget* AddLine();
+  void ShowPicture();
+  QPixmap PictureOrIcon() const;
+  void Animate();
+  void DrawInitials();
+  void DrawTitle();
+  QColor NextColor();
+
+  const Globals& globals_;
+  FireworkView* picAboutImage_;
+  QLabel* lblVersion_ = nullptr;
+  QTimer animation_{this};
+  Random random_;
+  QColor drawingColor_ = Qt::black;
+  bool AnimationRunning_ = false;
+  const bool ManyColors_;
+};

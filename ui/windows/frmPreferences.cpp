@@ -1,0 +1,200 @@
+#include "ui/windows/frmPreferences.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+
+#include "ui/commands/Preferences.h"
+#include "ui/support/Pictures.h"
+#include "ui/support/SystemColors.h"
+#include "ui/support/WindowPlacing.h"
+#include "ui/windows/preferences/ChooserButton.h"
+#include "ui/windows/preferences/Choosers.h"
+#include "ui/windows/preferences/PreviewBoard.h"
+#include "ui/windows/preferences/Swatch.h"
+
+namespace {
+
+constexpr Color NoColor = -1;
+
+const QString ImageFilter =
+    "All Readable Images|*.bmp; *.dib; *.rle; *.jpg; *.jpeg; *.gif; *.ico; *.cur|"
+    "Web Images (*.jpg;*.jpeg;*.gif)|*.jpg; *.jpeg; *.gif|"
+    "Icons (*.ico;*.cur)|*.ico; *.cur|"
+    "Windows Images (*.bmp;*.dib;*.rle)|*.bmp; *.dib; *.rle|"
+    "All Files (*.*)|*.*";
+
+// Values that files may hold and the options do not have act like one of the options.
+int HighlightOption(int highlightingMethod) {
+  return highlightingMethod == 1 || highlightingMethod == 2 ? highlightingMethod : 0;
+}
+
+int PositionOption(int startingPosition) {
+  return startingPosition == 0 || startingPosition == 1 ? startingPosition : 2;
+}
+
+int StartingSquare(const GameOptions& options) {
+  const auto onBoard = [](int coordinate) {
+    return coordinate >= 0 && coordinate < BoardSide ? coordinate : 0;
+  };
+  return SquareIndex(onBoard(options.StartingX), onBoard(options.StartingY));
+}
+
+}  // namespace
+
+frmPreferences::frmPreferences(const CommandContext& context, QWidget* mainWindow)
+    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      context_(context),
+      settings_(context.globals.settings),
+      menus_(this) {
+  setObjectName("frmPreferences");
+  setWindowTitle("Preferences");
+  AddControls();
+  Form_Load();
+  PlaceDialog(*this, *mainWindow);
+}
+
+void frmPreferences::Form_Load() {
+  for (int owner = 0; owner < ChooserCount; ++owner) {
+    SetColorOf(owner, settings_.*ChooserRows[owner].color);
+  }
+  chkUseImages_->setChecked(settings_.UseImages);
+  chkUseImages_Click();
+  LoadAndShowImages(settings_.UseImages);
+  optPosition_->button(PositionOption(settings_.StartingPosition))->setChecked(true);
+  optHighlight_->button(HighlightOption(settings_.HighlightingMethod))->setChecked(true);
+  pctGrid_->SetupLittleChessboard(StartingSquare(settings_));
+  menus_.ShowLook(settings_);
+}
+
+void frmPreferences::LoadAndShowImages(bool show) {
+  for (int owner = 0; owner < ChooserCount; ++owner) {
+    const QString name = show ? settings_.*ChooserRows[owner].image : QString();
+    choosers_[owner].swatch->Image().SetPicture(
+        LoadPicture(name, context_.globals.ProgramDirectory));
+  }
+  PositionImages();
+}
+
+void frmPreferences::PositionImages() {
+  for (const Chooser& chooser : choosers_) {
+    chooser.swatch->Image().SetPositioning(settings_.ImagePositioning);
+  }
+}
+
+void frmPreferences::chkUseImages_Click() {
+  const QString subject = chkUseImages_->isChecked() ? "Image" : "Color";
+  for (int owner = 0; owner < ChooserCount; ++owner) {
+    choosers_[owner].button->setText(QString("&%1 %2...").arg(ChooserRows[owner].part, subject));
+  }
+}
+
+void frmPreferences::Chooser_Click(int owner) {
+  if (chkUseImages_->isChecked()) {
+    ChooseImage(owner);
+  } else {
+    ChooseColor(owner);
+  }
+}
+
+void frmPreferences::ChooseColor(int owner) {
+  const Color color = GetColors(settings_.*ChooserRows[owner].color);
+  if (color != NoColor) SetColorOf(owner, color);
+}
+
+Color frmPreferences::GetColors(Color color) {
+  const auto chosen = context_.dialogs.ChooseColor(ResolveColor(color, palette()));
+  return chosen ? StoredColor(*chosen) : NoColor;
+}
+
+void frmPreferences::SetColorOf(int owner, Color color) {
+  settings_.*ChooserRows[owner].color = color;
+  choosers_[owner].swatch->SetColor(color);
+  pctGrid_->ReColorChessboard();
+}
+
+// A picture that cannot be loaded is not kept: the default one will take its place.
+void frmPreferences::ChooseImage(int owner) {
+  const QString fileName = GetImages();
+  if (fileName.isEmpty()) return;
+  const QImage picture = LoadPicture(fileName, context_.globals.ProgramDirectory);
+  settings_.*ChooserRows[owner].image = picture.isNull() ? QString() : fileName;
+  choosers_[owner].swatch->Image().SetPicture(picture);
+  PositionImages();
+}
+
+QString frmPreferences::GetImages() {
+  QString& directory = settings_.PreferencesPreviousDirectory;
+  const QString fileName = context_.dialogs.OpenFile({directory, ImageFilter});
+  if (!fileName.isEmpty()) directory = DirectoryOf(fileName);
+  return fileName;
+}
+
+void frmPreferences::Chooser_MouseUp(int owner) {
+  menuOwner_ = owner;
+  const QWidget* button = choosers_[owner].button;
+  const QPoint below = button->mapToGlobal(QPoint(0, button->height()));
+  const bool isFrame = owner == FrameChooser;
+  if (chkUseImages_->isChecked()) {
+    const auto index = menus_.PopUpImageOptions(below, isFrame);
+    if (index) mnuImageOptionsEntry_Click(*index);
+  } else {
+    const auto index = menus_.PopUpSystemColors(below, isFrame);
+    if (index) mnuSystemColorsEntry_Click(*index);
+  }
+}
+
+void frmPreferences::mnuSystemColorsEntry_Click(int index) {
+  if (index < SystemColorCount) {
+    SetColorOf(menuOwner_, SystemColor(index));
+  } else {
+    mnuImageOptionsEntry_Click(index);
+  }
+}
+
+void frmPreferences::mnuImageOptionsEntry_Click(int index) {
+  switch (index) {
+    case PreferenceEntry::StretchImages:
+      settings_.ImagePositioning = 0;
+      break;
+    case PreferenceEntry::CenterImages:
+      settings_.ImagePositioning = 1;
+      break;
+    case PreferenceEntry::Borders:
+      settings_.UseBorders = !settings_.UseBorders;
+      break;
+    case PreferenceEntry::FrameWidth:
+      AskForFrameWidth(context_);
+      break;
+    default:
+      break;
+  }
+  menus_.ShowLook(settings_);
+  PositionImages();
+}
+
+// Picking a square means starting there.
+void frmPreferences::pctGrid_Click() {
+  optPosition_->button(0)->setChecked(true);
+}
+
+void frmPreferences::cmdOK_Click() {
+  settings_.StartingPosition = static_cast<std::int16_t>(optPosition_->checkedId());
+  settings_.HighlightingMethod = optHighlight_->checkedId();
+  settings_.StartingX = static_cast<std::int16_t>(pctGrid_->SelectedX());
+  settings_.StartingY = static_cast<std::int16_t>(pctGrid_->SelectedY());
+  settings_.UseImages = chkUseImages_->isChecked();
+  ApplyPreferences(context_);
+  accept();
+}
+
+void frmPreferences::cmdCancel_Click() {
+  reject();
+}
+
+void frmPreferences::cmdDefaultConfiguration_Click() {
+  if (RestoreDefaultConfiguration(context_)) Form_Load();
+}
+
+void frmPreferences::cmdClearScores_Click() {
+  ClearScoreLists(context_);
+}

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <array>
+
+#include <QDialog>
+
+#include "ui/commands/CommandContext.h"
+#include "ui/windows/preferences/PreferenceMenus.h"
+
+class ChooserButton;
+class PreviewBoard;
+class QButtonGroup;
+class QCheckBox;
+class QGridLayout;
+class QGroupBox;
+class QLayout;
+class QPushButton;
+class Swatch;
+
+// The preferences. The six choosers change the settings in memory; everything is stored and applied
+// by OK only.
+class frmPreferences : public QDialog {
+  Q_OBJECT
+
+ public:
+  // Both outlive the window.
+  frmPreferences(const CommandContext& context, QWidget* mainWindow);
+
+  // owner: a chooser by its place in the order Light, Dark, Visited, Knight, Highlight, Frame.
+  void Chooser_Click(int owner);
+  void Chooser_MouseUp(int owner);
+  void mnuSystemColorsEntry_Click(int index);
+  void mnuImageOptionsEntry_Click(int index);
+  void pctGrid_Click();
+  void chkUseImages_Click();
+  void cmdOK_Click();
+  void cmdCancel_Click();
+  void cmdDefaultConfiguration_Click();
+  void cmdClearScores_Click();
+
+ private:
+  static constexpr int ChooserCount = 6;
+
+  struct Chooser {
+    ChooserButton* button = nullptr;
+    Swatch* swatch = nullptr;
+  };
+
+  void AddControls();
+  QGroupBox* AddChessboardFrame();
+  QGroupBox* AddHighlightFrame();
+  QGroupBox* AddPositionFrame();
+  QGroupBox* AddProgramFrame();
+  QLayout* AddClosingButtons();
+  void AddChooser(int owner, QGridLayout& layout, int row);
+  QPushButton* AddButton(const char* name, const char* caption, void (frmPreferences::*handler)());
+
+  void Form_Load();
+  void ChooseColor(int owner);
+  void ChooseImage(int owner);
+  // A colour on the screen, or NoColor when the player cancelled.
+  Color GetColors(Color color);
+  // Empty when the player cancelled.
+  QString GetImages();
+  void SetColorOf(int owner, Color color);
+  void LoadAndShowImages(bool show);
+  void PositionImages();
+
+  const CommandContext& context_;
+  Settings& settings_;
+  std::array<Chooser, ChooserCount> choosers_;
+  QCheckBox* chkUseImages_ = nullptr;
+  QButtonGroup* optHighlight_ = nullptr;
+  QButtonGroup* optPosition_ = nullptr;
+  PreviewBoard* pctGrid_ = nullptr;
+  PreferenceMenus menus_;
+  int menuOwner_ = 0;
+};

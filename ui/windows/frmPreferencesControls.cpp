@@ -1,0 +1,130 @@
+// The controls of the preferences and their places.
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QRadioButton>
+
+#include "ui/windows/frmPreferences.h"
+#include "ui/windows/preferences/ChooserButton.h"
+#include "ui/windows/preferences/Choosers.h"
+#include "ui/windows/preferences/PreviewBoard.h"
+#include "ui/windows/preferences/Swatch.h"
+
+namespace {
+
+constexpr int ColumnGap = 12;
+
+QGroupBox* NewFrame(QWidget* parent, const char* name, const char* title) {
+  auto* frame = new QGroupBox(title, parent);
+  frame->setObjectName(name);
+  return frame;
+}
+
+// Options numbered from 0 in the order of their captions, each in the row after the one before.
+QButtonGroup* AddOptions(QGroupBox* frame, QGridLayout& layout, const QString& name,
+                         std::initializer_list<const char*> captions) {
+  auto* group = new QButtonGroup(frame);
+  for (const char* caption : captions) {
+    const int index = static_cast<int>(group->buttons().size());
+    auto* option = new QRadioButton(caption, frame);
+    option->setObjectName(QString("%1(%2)").arg(name).arg(index));
+    group->addButton(option, index);
+    layout.addWidget(option, layout.rowCount(), 0, 1, 2);
+  }
+  return group;
+}
+
+}  // namespace
+
+void frmPreferences::AddControls() {
+  auto* layout = new QGridLayout(this);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+  layout->setHorizontalSpacing(ColumnGap);
+  layout->addWidget(AddChessboardFrame(), 0, 0);
+  layout->addWidget(AddHighlightFrame(), 1, 0);
+  layout->addWidget(AddPositionFrame(), 0, 1);
+  layout->addWidget(AddProgramFrame(), 1, 1);
+  layout->addLayout(AddClosingButtons(), 2, 0, 1, 2);
+}
+
+QGroupBox* frmPreferences::AddChessboardFrame() {
+  QGroupBox* frame = NewFrame(this, "fraChessboard", "Chessboard:");
+  auto* layout = new QGridLayout(frame);
+  int row = 0;
+  for (int owner = 0; owner < ChooserCount; ++owner) {
+    if (owner != HighlightChooser) AddChooser(owner, *layout, row++);
+  }
+  chkUseImages_ = new QCheckBox("Use &Images", frame);
+  chkUseImages_->setObjectName("chkUseImages");
+  connect(chkUseImages_, &QCheckBox::toggled, this, &frmPreferences::chkUseImages_Click);
+  layout->addWidget(chkUseImages_, row, 0, 1, 2);
+  return frame;
+}
+
+void frmPreferences::AddChooser(int owner, QGridLayout& layout, int row) {
+  const ChooserRow& names = ChooserRows[owner];
+  auto* button = new ChooserButton(layout.parentWidget());
+  button->setObjectName(names.button);
+  connect(button, &ChooserButton::clicked, this, [this, owner] { Chooser_Click(owner); });
+  connect(button, &ChooserButton::MenuRequested, this, [this, owner] { Chooser_MouseUp(owner); });
+  auto* swatch = new Swatch(layout.parentWidget());
+  swatch->setObjectName(names.swatch);
+  swatch->setAccessibleName(QString("%1 color").arg(names.part));
+  swatch->Image().setObjectName(names.preview);
+  swatch->Image().setAccessibleName(QString("%1 image").arg(names.part));
+  layout.addWidget(button, row, 0);
+  layout.addWidget(swatch, row, 1);
+  layout.setColumnStretch(0, 1);
+  choosers_[owner] = {button, swatch};
+}
+
+QGroupBox* frmPreferences::AddHighlightFrame() {
+  QGroupBox* frame = NewFrame(this, "fraHighlight", "Highlight:");
+  auto* layout = new QGridLayout(frame);
+  AddChooser(HighlightChooser, *layout, 0);
+  optHighlight_ = AddOptions(frame, *layout, "optHighlight",
+                             {"&None", "Cursor &Position", "Valid &Moves Only"});
+  return frame;
+}
+
+QGroupBox* frmPreferences::AddPositionFrame() {
+  QGroupBox* frame = NewFrame(this, "fraPosition", "Starting Position:");
+  auto* layout = new QGridLayout(frame);
+  pctGrid_ = new PreviewBoard(settings_, frame);
+  connect(pctGrid_, &PreviewBoard::Clicked, this, &frmPreferences::pctGrid_Click);
+  layout->addWidget(pctGrid_, 0, 0, 1, 2, Qt::AlignHCenter);
+  optPosition_ = AddOptions(frame, *layout, "optPosition",
+                            {"&Above Position", "&Chosen Positon", "&Random Positon"});
+  return frame;
+}
+
+QGroupBox* frmPreferences::AddProgramFrame() {
+  QGroupBox* frame = NewFrame(this, "fraProgram", "Program:");
+  auto* layout = new QVBoxLayout(frame);
+  layout->addWidget(AddButton("cmdDefaultConfiguration", "Defa&ult Configuration",
+                              &frmPreferences::cmdDefaultConfiguration_Click));
+  layout->addWidget(
+      AddButton("cmdClearScores", "Clear &Score Lists", &frmPreferences::cmdClearScores_Click));
+  layout->addStretch();
+  return frame;
+}
+
+QLayout* frmPreferences::AddClosingButtons() {
+  auto* layout = new QHBoxLayout;
+  layout->addStretch();
+  QPushButton* cmdOK = AddButton("cmdOK", "OK", &frmPreferences::cmdOK_Click);
+  cmdOK->setDefault(true);
+  layout->addWidget(cmdOK);
+  layout->addWidget(AddButton("cmdCancel", "Cancel", &frmPreferences::cmdCancel_Click));
+  return layout;
+}
+
+QPushButton* frmPreferences::AddButton(const char* name, const char* caption,
+                                       void (frmPreferences::*handler)()) {
+  auto* button = new QPushButton(caption, this);
+  button->setObjectName(name);
+  connect(button, &QPushButton::clicked, this, handler);
+  return button;
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QImage>
+#include <QPixmap>
+#include <QWidget>
+
+#include "storage/BoardLook.h"
+
+// The picture of a preview. Without a picture it is not seen.
+class PreviewImage : public QWidget {
+ public:
+  explicit PreviewImage(QWidget* parent);
+
+  void SetPicture(const QImage& picture);
+  bool HasPicture() const { return !picture_.isNull(); }
+  // 0 = stretched over the preview, 1 = in its own size in the middle.
+  void SetPositioning(int imagePositioning);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QSize SizeOfPicture() const;
+
+  QImage picture_;
+  QPixmap scaled_;  // for the present positioning and screen
+  int positioning_ = 0;
+};
+
+// Shows a colour, and a picture over all of it but a rim.
+class Swatch : public QWidget {
+ public:
+  explicit Swatch(QWidget* parent);
+
+  void SetColor(Color color);
+  PreviewImage& Image() { return *image_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  Color color_ = 0;
+  PreviewImage* image_;
+};
