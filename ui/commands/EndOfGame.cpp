@@ -5,35 +5,35 @@
 
 namespace {
 
-void SubmitToScores(const CommandContext& context, const GameOverReport& report) {
+// A tour that the player made alone is celebrated before its end is announced.
+void SendScores(const CommandContext& context, const GameOverReport& report) {
+  if (report.moveCount == SquareCount && !context.state.NoScoreGame) context.windows.ShowWin();
+}
+
+ScoresAnswer SubmitToScores(const CommandContext& context, const GameOverReport& report) {
   const ScoreList list = report.moveCount > MostLowMoves ? ScoreList::High : ScoreList::Low;
   context.state.NoScoreGame = true;  // a game is submitted once only
   const FinishedGame finished{report.moveCount, report.elapsedHalfSeconds};
-  switch (context.windows.ShowScores(list, finished)) {
-    case ScoresAnswer::NewGame:
-      context.game.mnuFileNew_Click();
-      break;
-    case ScoresAnswer::Replay:
-      mnuViewReplay_Click(context);
-      break;
-    case ScoresAnswer::Close:
-      break;
-  }
+  return context.windows.ShowScores(list, finished);
+}
+
+void cmdScoresReplay_Click(const CommandContext& context, const GameOverReport& report) {
+  const ScoresAnswer answer =
+      context.state.NoScoreGame ? ScoresAnswer::Replay : SubmitToScores(context, report);
+  if (answer == ScoresAnswer::Replay) mnuViewReplay_Click(context);
+  if (answer == ScoresAnswer::NewGame) context.game.mnuFileNew_Click();
 }
 
 }  // namespace
 
 void EndGame(const CommandContext& context, const GameOverReport& report) {
-  const bool mayScore = !context.state.NoScoreGame;
   const std::uint32_t serial = context.state.GameSerial;
-  if (report.moveCount == SquareCount && mayScore) context.windows.ShowWin();
+  SendScores(context, report);
   const GameOverAnswer answer = context.windows.ShowGameOver(report);
   if (context.state.GameSerial != serial) return;
   if (answer == GameOverAnswer::Undo) {
     context.game.mnuEditUndo_Click();
-  } else if (mayScore) {
-    SubmitToScores(context, report);
   } else {
-    mnuViewReplay_Click(context);
+    cmdScoresReplay_Click(context, report);
   }
 }

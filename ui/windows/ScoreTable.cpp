@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QPainter>
@@ -27,7 +28,7 @@ constexpr Qt::Alignment AlignmentOf(int column) {
 QFont RowFont() {
   QFont font = QApplication::font();
   font.setFamily("Arial");
-  font.setPointSizeF(font.pointSizeF() * RowFontScale);
+  font.setPointSizeF(QFontInfo(font).pointSizeF() * RowFontScale);
   return font;
 }
 
