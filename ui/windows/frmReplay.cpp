@@ -30,6 +30,7 @@ QLabel* AddValueLabel(QWidget* parent, const char* name, const QString& longest)
   label->setObjectName(name);
   label->setTextFormat(Qt::PlainText);
   label->setFixedSize(label->sizeHint());
+  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   return label;
 }
 
@@ -70,10 +71,9 @@ QGroupBox* frmReplay::AddKnightFrame() {
   lblPositionValue_ = AddValueLabel(frame, "lblPositionValue", "WW");
   auto* layout = new QGridLayout(frame);
   layout->addWidget(AddLabel(frame, "lblMove", "Move:"), 0, 0);
-  layout->addWidget(lblMoveValue_, 0, 1);
+  layout->addWidget(lblMoveValue_, 0, 1, Qt::AlignRight);
   layout->addWidget(AddLabel(frame, "lblPosition", "Position:"), 1, 0);
-  layout->addWidget(lblPositionValue_, 1, 1);
-  layout->setColumnStretch(1, 1);
+  layout->addWidget(lblPositionValue_, 1, 1, Qt::AlignRight);
   return frame;
 }
 
@@ -105,7 +105,7 @@ QGroupBox* frmReplay::AddAdvanceFrame() {
   QGroupBox* frame = NewFrame(this, "fraAdvance", " Advancement:");
   optAdvance_[Automatic] = AddOption(frame, "optAdvance(0)", "A&utomatic");
   optAdvance_[Manual] = AddOption(frame, "optAdvance(1)", "&Manual");
-  lblSpeedSeek_ = AddValueLabel(frame, "lblSpeedSeek", "Speed:");
+  lblSpeedSeek_ = AddLabel(frame, "lblSpeedSeek", "Speed:");
   lblSpeedSeekValue_ = AddValueLabel(frame, "lblSpeedSeekValue", "0.1 sec.");
   hsclSpeedSeekSet_ = new QScrollBar(Qt::Horizontal, frame);
   hsclSpeedSeekSet_->setObjectName("hsclSpeedSeekSet");
