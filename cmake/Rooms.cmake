@@ -19,10 +19,21 @@ function(add_room name)
   target_link_libraries(gallopade_${name} PRIVATE gallopade_warnings)
 endfunction()
 
-# add_room_tests(ROOM sources...): the GoogleTest program ROOM_tests, labelled with the room's name.
+# add_room_tests(ROOM sources...): the GoogleTest program ROOM_tests. Its tests are registered one by
+# one under the room's label; with GALLOPADE_WHOLE_TESTS the program is one test, which is quicker.
 function(add_room_tests room)
-  add_executable(${room}_tests ${ARGN})
-  target_link_libraries(${room}_tests PRIVATE gallopade_warnings GTest::gtest)
-  target_compile_definitions(${room}_tests PRIVATE
+  set(program ${room}_tests)
+  add_executable(${program} ${ARGN})
+  target_link_libraries(${program} PRIVATE gallopade_warnings GTest::gtest)
+  target_compile_definitions(${program} PRIVATE
     TEST_DATA_DIRECTORY="${PROJECT_SOURCE_DIR}/tests/data/")
+  if(GALLOPADE_PCH)
+    target_precompile_headers(${program} PRIVATE <gtest/gtest.h>)
+  endif()
+  if(GALLOPADE_WHOLE_TESTS)
+    add_test(NAME ${room} COMMAND ${program} --gtest_brief=1)
+    set_tests_properties(${room} PROPERTIES LABELS ${room})
+  else()
+    gtest_discover_tests(${program} DISCOVERY_MODE PRE_TEST PROPERTIES LABELS ${room})
+  endif()
 endfunction()
