@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <QByteArray>
+#include <QDir>
 #include <QString>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -23,6 +24,9 @@ QByteArray ContentOf(const QString& pathName);
 // A test with a folder of its own that is gone afterwards.
 class FolderTest : public testing::Test {
  protected:
+  explicit FolderTest(const QString& place = QDir::tempPath())
+      : folder_(place + "/gallopade-XXXXXX") {}
+
   QString Folder() const { return folder_.path(); }
   QString PathOf(const QString& name) const { return folder_.filePath(name); }
   // Makes a file; gives its path.
