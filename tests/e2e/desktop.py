@@ -4,11 +4,21 @@ import os
 import shutil
 import signal
 import subprocess
+import sys
 import tempfile
 import time
 from pathlib import Path
 
 PATIENCE_SECONDS = 20
+SKIPPED = 77
+
+
+def need(*tools):
+    """Ends the test program as skipped when the machine lacks one of the tools."""
+    missing = [tool for tool in tools if shutil.which(tool) is None]
+    if missing:
+        print("skipped, not installed:", ", ".join(missing))
+        sys.exit(SKIPPED)
 
 
 def wait_for(condition, what):
