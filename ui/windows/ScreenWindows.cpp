@@ -7,12 +7,19 @@
 #include "ui/windows/frmGame.h"
 #include "ui/windows/frmGameOver.h"
 #include "ui/windows/frmHistory.h"
-#include "ui/windows/frmReplay.h"
 #include "ui/windows/frmPreferences.h"
+#include "ui/windows/frmReplay.h"
 #include "ui/windows/frmScores.h"
+#include "ui/windows/frmSolve.h"
 #include "ui/windows/frmWin.h"
 
-void ScreenWindows::ShowSolve(int) {}
+void ScreenWindows::ShowSolve(int startMove) {
+  frmSolve window(mainWindow_.Context(), &mainWindow_);
+  const std::optional<QPoint> formerPosition = PlaceBeside(window, mainWindow_);
+  window.StartAt(startMove);
+  window.exec();
+  if (formerPosition) mainWindow_.move(*formerPosition);
+}
 
 void ScreenWindows::ShowReplay(int total) {
   frmReplay window(mainWindow_.Context(), &mainWindow_);

@@ -1,0 +1,232 @@
+#include "ui/windows/frmSolve.h"
+
+#include <utility>
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+#include "core/NumberText.h"
+
+namespace {
+
+constexpr int SlowestRefresh = 32000;
+constexpr int RefreshSmallStep = 100;
+constexpr int RefreshLargeStep = 1000;
+
+QLabel* AddLabel(QWidget* parent, const char* name, const QString& text) {
+  auto* label = new QLabel(text, parent);
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
+// A label of the size of its longest text: a new value moves nothing else in the window.
+QLabel* AddValueLabel(QWidget* parent, const char* name, const QString& longest) {
+  QLabel* label = AddLabel(parent, name, longest);
+  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  label->setFixedSize(label->sizeHint());
+  return label;
+}
+
+QGroupBox* NewFrame(QWidget* parent, const char* name, const QString& caption) {
+  auto* frame = new QGroupBox(caption, parent);
+  frame->setObjectName(name);
+  return frame;
+}
+
+}  // namespace
+
+frmSolve::frmSolve(const CommandContext& context, QWidget* mainWindow)
+    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      context_(context) {
+  setObjectName("frmSolve");
+  setWindowTitle("Solve");
+  auto* layout = new QVBoxLayout(this);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+  layout->addWidget(AddKnightFrame());
+  layout->addWidget(AddRefreshFrame());
+  layout->addWidget(AddControlsFrame());
+  cmdStartStop_->setFocus();
+  ShowValues(0);
+}
+
+QGroupBox* frmSolve::AddKnightFrame() {
+  QGroupBox* frame = NewFrame(this, "fraKnight", " Knight:");
+  lblTestedValue_ = AddValueLabel(frame, "lblTestedValue", "888888888888888");
+  lblMoveValue_ = AddValueLabel(frame, "lblMoveValue", "88");
+  lblPositionValue_ = AddValueLabel(frame, "lblPositionValue", "W8");
+  auto* layout = new QGridLayout(frame);
+  layout->setColumnStretch(1, 1);
+  layout->addWidget(AddLabel(frame, "lblTested", "Tested:"), 0, 0);
+  layout->addWidget(lblTestedValue_, 0, 1, Qt::AlignRight);
+  layout->addWidget(AddLabel(frame, "lblMove", "Move:"), 1, 0);
+  layout->addWidget(lblMoveValue_, 1, 1, Qt::AlignRight);
+  layout->addWidget(AddLabel(frame, "lblPosition", "Position:"), 2, 0);
+  layout->addWidget(lblPositionValue_, 2, 1, Qt::AlignRight);
+  return frame;
+}
+
+QGroupBox* frmSolve::AddRefreshFrame() {
+  QGroupBox* frame = NewFrame(this, "fraRefresh", " Refresh:");
+  hsclRefreshRateValue_ = new QScrollBar(Qt::Horizontal, frame);
+  hsclRefreshRateValue_->setObjectName("hsclRefreshRateValue");
+  hsclRefreshRateValue_->setAccessibleName("Refresh");
+  hsclRefreshRateValue_->setFocusPolicy(Qt::StrongFocus);
+  hsclRefreshRateValue_->setRange(1, SlowestRefresh);
+  hsclRefreshRateValue_->setSingleStep(RefreshSmallStep);
+  hsclRefreshRateValue_->setPageStep(RefreshLargeStep);
+  hsclRefreshRateValue_->setValue(context_.globals.settings.SolveRefreshRate);
+  lblRefreshRate_ = AddValueLabel(frame, "lblRefreshRate", "Every 32000 Moves");
+  connect(hsclRefreshRateValue_, &QScrollBar::valueChanged, this,
+          &frmSolve::hsclRefreshRateValue_Change);
+  hsclRefreshRateValue_Change();
+  auto* layout = new QVBoxLayout(frame);
+  layout->addWidget(hsclRefreshRateValue_);
+  layout->addWidget(lblRefreshRate_, 0, Qt::AlignRight);
+  return frame;
+}
+
+QGroupBox* frmSolve::AddControlsFrame() {
+  QGroupBox* frame = NewFrame(this, "fraControls", " Controls:");
+  cmdStartStop_ = AddButton("cmdStartStop", "&Start", &frmSolve::cmdStartStop_Click);
+  cmdBacktrack_ = AddButton("cmdBacktrack", "&Backtrack", &frmSolve::cmdBacktrack_Click);
+  cmdBacktrack_->setEnabled(false);
+  auto* layout = new QVBoxLayout(frame);
+  layout->addWidget(cmdStartStop_);
+  layout->addWidget(cmdBacktrack_);
+  layout->addWidget(AddButton("cmdClose", "&Close", &frmSolve::cmdClose_Click));
+  return frame;
+}
+
+QPushButton* frmSolve::AddButton(const char* name, const char* caption,
+                                 void (frmSolve::*handler)()) {
+  auto* button = new QPushButton(caption, this);
+  button->setObjectName(name);
+  connect(button, &QPushButton::clicked, this, handler);
+  return button;
+}
+
+void frmSolve::hsclRefreshRateValue_Change() {
+  const int rate = hsclRefreshRateValue_->value();
+  context_.globals.settings.SolveRefreshRate = static_cast<std::int16_t>(rate);
+  lblRefreshRate_->setText(
+      rate < 2 ? "On Every Move" : "Every" + QString::fromStdString(NumberText(rate)) + " Moves");
+}
+
+void frmSolve::ShowProgress() {
+  ShowValues(solver_.PositionsTested - 1);
+}
+
+void frmSolve::ShowValues(std::int64_t tested) {
+  const GameState& state = context_.state;
+  if (std::exchange(shownTested_, tested) != tested) {
+    lblTestedValue_->setText(QString::number(tested));
+  }
+  if (std::exchange(shownMove_, state.MoveCount) != state.MoveCount) {
+    lblMoveValue_->setText(QString::number(state.MoveCount));
+  }
+  const int square = SquareIndex(state.KnightX, state.KnightY);
+  if (std::exchange(shownSquare_, square) != square) {
+    lblPositionValue_->setText(QString::fromStdString(SquareName(state.KnightX, state.KnightY)));
+  }
+}
+
+void frmSolve::OfferStop(bool stop) {
+  stopOffered_ = stop;
+  cmdStartStop_->setText(stop ? "&Stop" : "&Start");
+}
+
+// A stopped search is still on the stack until its yield is over: no other can start before.
+void frmSolve::cmdStartStop_Click() {
+  if (stopOffered_) {
+    solver_.StopSolving = true;
+    OfferStop(false);
+  } else if (!working_ && !closing_) {
+    Search();
+  }
+}
+
+void frmSolve::Search() {
+  {
+    const QScopedValueRollback working(working_, true);
+    context_.state.NoScoreGame = true;
+    OfferStop(true);
+    cmdBacktrack_->setEnabled(false);
+    EndSearch(FindTour());
+    OfferStop(false);
+  }
+  if (closing_) Leave();
+}
+
+bool frmSolve::FindTour() {
+  solver_ = SolverState();
+  context_.state.SolverRunning = true;
+  const bool solved =
+      SolveTheGameNoRefresh({context_.game, context_.state, context_.window, solver_,
+                             context_.globals.settings.SolveRefreshRate, *this});
+  context_.state.SolverRunning = false;
+  return solved;
+}
+
+void frmSolve::EndSearch(bool solved) {
+  // A Stop that comes too late changes nothing: the search has given its answer.
+  const bool stopped = solver_.StopSolving && !solved;
+  context_.window.RestoreColors(-1, -1);
+  context_.game.DoCaption();
+  context_.window.DoEvents();
+  ShowProgress();
+  if (solved) {
+    context_.window.EnableClock(false);
+    context_.window.Tell("Solved Successfully", "The game has been solved!",
+                         MessageIcon::Information);
+    cmdStartStop_->setEnabled(false);
+    cmdBacktrack_->setEnabled(true);
+  } else if (stopped) {
+    cmdBacktrack_->setEnabled(solveStartMove_ < context_.state.MoveCount);
+  } else {
+    context_.window.Tell("No Solution",
+                         "At the current position, there is no solution to this game.\n"
+                         "Undo a few moves and try solving again.",
+                         MessageIcon::Information);
+  }
+}
+
+void frmSolve::cmdBacktrack_Click() {
+  if (working_ || closing_) return;
+  Backtrack();
+  if (closing_) Leave();
+}
+
+void frmSolve::Backtrack() {
+  const QScopedValueRollback working(working_, true);
+  for (int undos = context_.state.MoveCount - solveStartMove_; undos > 0; --undos) {
+    context_.game.mnuEditUndo_Click();
+    context_.window.DoEvents();
+  }
+  ShowValues(0);
+  cmdStartStop_->setEnabled(true);
+  cmdBacktrack_->setEnabled(false);
+}
+
+void frmSolve::cmdClose_Click() {
+  close();
+}
+
+void frmSolve::done(int) {
+  if (std::exchange(closing_, true)) return;
+  if (stopOffered_) cmdStartStop_Click();
+  if (!working_) Leave();
+}
+
+void frmSolve::Leave() {
+  context_.window.DoEvents();
+  if (cmdBacktrack_->isEnabled() &&
+      context_.window.Ask("Backtrack?", "Do you want to backtrack before closing?")) {
+    Backtrack();
+  }
+  QDialog::done(Rejected);
+}

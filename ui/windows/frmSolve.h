@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstdint>
+
+#include <QDialog>
+
+#include "solver/TourSolver.h"
+#include "ui/commands/CommandContext.h"
+
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QPushButton;
+class QScrollBar;
+
+// Starts and stops the search for a tour on the live game, shows how it goes, and takes back the
+// moves that it added.
+//
+// The search runs inside the click that starts it. Whatever the player does meanwhile arrives in
+// the middle of it, when it yields: closing then waits for the search to unwind.
+class frmSolve : public QDialog, private SolveProgress {
+  Q_OBJECT
+
+ public:
+  // The context outlives the window. The game has its first square.
+  frmSolve(const CommandContext& context, QWidget* mainWindow);
+
+  // Move: the number of moves that Backtrack goes back to.
+  void StartAt(int Move) { solveStartMove_ = Move; }
+
+  void hsclRefreshRateValue_Change();
+  void cmdStartStop_Click();
+  void cmdBacktrack_Click();
+  void cmdClose_Click();
+
+  // Every way of closing ends here. It cannot be cancelled, but it may have to wait.
+  void done(int result) override;
+
+ private:
+  QGroupBox* AddKnightFrame();
+  QGroupBox* AddRefreshFrame();
+  QGroupBox* AddControlsFrame();
+  QPushButton* AddButton(const char* name, const char* caption, void (frmSolve::*handler)());
+
+  void ShowProgress() override;
+  void ShowValues(std::int64_t tested);
+  void OfferStop(bool stop);
+  void Search();
+  bool FindTour();
+  void EndSearch(bool solved);
+  void Backtrack();
+  void Leave();
+
+  const CommandContext& context_;
+  QLabel* lblTestedValue_ = nullptr;
+  QLabel* lblMoveValue_ = nullptr;
+  QLabel* lblPositionValue_ = nullptr;
+  QScrollBar* hsclRefreshRateValue_ = nullptr;
+  QLabel* lblRefreshRate_ = nullptr;
+  QPushButton* cmdStartStop_ = nullptr;
+  QPushButton* cmdBacktrack_ = nullptr;
+
+  SolverState solver_;
+  int solveStartMove_ = 1;
+  bool stopOffered_ = false;  // cmdStartStop reads "Stop"
+  bool working_ = false;      // a search or a backtrack is on the stack
+  bool closing_ = false;
+  // What the labels show.
+  std::int64_t shownTested_ = -1;
+  int shownMove_ = -1;
+  int shownSquare_ = -1;
+};
