@@ -14,6 +14,8 @@ void PreferencesDesk::InPreferences(const Work& work) {
   WhenNextModalOpens([work](QWidget& modal) {
     auto* window = qobject_cast<frmPreferences*>(&modal);
     ASSERT_NE(window, nullptr) << modal.windowTitle().toStdString();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
     work(*window);
     if (window->isVisible()) window->reject();
   });
@@ -81,8 +83,10 @@ QString PreferencesDesk::Stored(const QString& section, const QString& key) cons
   return value;
 }
 
+// Near its left end, where options have their circle.
 void Click(QWidget& window, const char* button) {
-  QTest::mouseClick(&Child<QAbstractButton>(window, button), Qt::LeftButton);
+  auto& control = Child<QAbstractButton>(window, button);
+  QTest::mouseClick(&control, Qt::LeftButton, Qt::NoModifier, QPoint(8, control.height() / 2));
 }
 
 void RightClick(QWidget& window, const char* button) {

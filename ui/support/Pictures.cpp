@@ -16,7 +16,9 @@ bool IsPictureFormat(const QByteArray& format) {
 }
 
 QByteArray FormatOf(const QString& pathName) {
-  const QByteArray told = QImageReader::imageFormat(pathName);
+  QImageReader reader(pathName);
+  reader.setDecideFormatFromContent(true);
+  const QByteArray told = reader.format();
   return told.isEmpty() ? QFileInfo(pathName).suffix().toLower().toLatin1() : told;
 }
 

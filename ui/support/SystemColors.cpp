@@ -67,7 +67,8 @@ std::vector<QColor> Shades(const QPalette& palette) {
   const float hue = std::max(button.hslHueF(), 0.0F);
   std::vector<QColor> shades;
   for (const float share : {1.0F, 0.6F, 0.3F}) {
-    shades.push_back(QColor::fromHslF(hue, button.hslSaturationF(), lightness * share));
+    const QColor shade = QColor::fromHslF(hue, button.hslSaturationF(), lightness * share);
+    shades.emplace_back(shade.rgb());
   }
   return shades;
 }
@@ -77,15 +78,15 @@ QColor Plain(std::uint32_t index, const QPalette& palette) {
   return source.role ? palette.color(QPalette::Active, *source.role) : QColor(source.classic);
 }
 
-// The desktop's colour, or the first of others that is apart from all that are taken. Those
-// others are so unlike each other that one is always left.
-QColor ApartFrom(const std::vector<QColor>& taken, const QColor& color) {
-  for (const QColor& candidate :
-       {color, QColor(0x0A246A), QColor(0xFFFFE1), QColor(0xD03A2B), QColor(0x2E9E4F)}) {
+// The desktop's colour, or the first of others that is apart from all that are taken. Those others
+// are so unlike each other that one is always left.
+QColor ApartFrom(const std::vector<QColor>& taken, std::uint32_t index, const QPalette& palette) {
+  for (const QColor& candidate : {Plain(index, palette), QColor(Sources[index].classic),
+                                  QColor(0xD03A2B), QColor(0x2E9E4F), QColor(0x7A3FC8)}) {
     const auto isApart = [&](const QColor& other) { return AreApart(candidate, other); };
     if (std::all_of(taken.begin(), taken.end(), isApart)) return candidate;
   }
-  return color;
+  return Plain(index, palette);
 }
 
 QColor ResolveSystemColor(std::uint32_t index, const QPalette& palette) {
@@ -94,8 +95,8 @@ QColor ResolveSystemColor(std::uint32_t index, const QPalette& palette) {
   if (index == DarkShade) return states[1];
   if (index == VisitedShade) return states[2];
   if (index != Knight && index != Highlight) return Plain(index, palette);
-  states.push_back(ApartFrom(states, Plain(Knight, palette)));
-  return index == Knight ? states.back() : ApartFrom(states, Plain(Highlight, palette));
+  states.push_back(ApartFrom(states, Knight, palette));
+  return index == Knight ? states.back() : ApartFrom(states, Highlight, palette);
 }
 
 }  // namespace

@@ -69,8 +69,9 @@ frmAbout::frmAbout(const Globals& globals, bool manyColors, QWidget* mainWindow)
   cmdOK->setObjectName("cmdOK");
   cmdOK->setDefault(true);
   connect(cmdOK, &QPushButton::clicked, this, &frmAbout::cmdOK_Click);
-  animation_.setInterval(DrawIntervalMilliseconds);
-  connect(&animation_, &QTimer::timeout, this, &frmAbout::Animate);
+  tmrAnimation_.setObjectName("tmrAnimation");
+  tmrAnimation_.setInterval(DrawIntervalMilliseconds);
+  connect(&tmrAnimation_, &QTimer::timeout, this, &frmAbout::Animate);
 
   auto* layout = new QGridLayout(this);
   layout->setSizeConstraint(QLayout::SetFixedSize);
@@ -154,7 +155,7 @@ void frmAbout::picAboutImage_DblClick() {
   if (AnimationRunning_) return;
   AnimationRunning_ = true;
   random_.Reseed();
-  animation_.start();
+  tmrAnimation_.start();
 }
 
 void frmAbout::Animate() {
@@ -193,7 +194,7 @@ void frmAbout::cmdOK_Click() {
 
 void frmAbout::Form_Unload() {
   AnimationRunning_ = false;
-  animation_.stop();
+  tmrAnimation_.stop();
 }
 
 void frmAbout::done(int result) {

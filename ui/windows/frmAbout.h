@@ -41,7 +41,7 @@ class frmAbout : public QDialog {
   const Globals& globals_;
   FireworkView* picAboutImage_;
   QLabel* lblVersion_ = nullptr;
-  QTimer animation_{this};
+  QTimer tmrAnimation_{this};
   Random random_;
   QColor drawingColor_ = Qt::black;
   bool AnimationRunning_ = false;

@@ -15,11 +15,22 @@
 namespace {
 
 constexpr int ColumnGap = 12;
+constexpr int ButtonGap = 8;
+// Beside a button's caption.
+constexpr int CaptionMargin = 16;
 
 QGroupBox* NewFrame(QWidget* parent, const char* name, const char* title) {
   auto* frame = new QGroupBox(title, parent);
   frame->setObjectName(name);
   return frame;
+}
+
+// Of a group of options the chosen one is the stop of the tab key.
+void StopAtChosenOption(QRadioButton* option) {
+  option->setFocusPolicy(Qt::ClickFocus);
+  QObject::connect(option, &QRadioButton::toggled, option, [option](bool checked) {
+    option->setFocusPolicy(checked ? Qt::StrongFocus : Qt::ClickFocus);
+  });
 }
 
 // Options numbered from 0 in the order of their captions, each in the row after the one before.
@@ -30,6 +41,7 @@ QButtonGroup* AddOptions(QGroupBox* frame, QGridLayout& layout, const QString& n
     const int index = static_cast<int>(group->buttons().size());
     auto* option = new QRadioButton(caption, frame);
     option->setObjectName(QString("%1(%2)").arg(name).arg(index));
+    StopAtChosenOption(option);
     group->addButton(option, index);
     layout.addWidget(option, layout.rowCount(), 0, 1, 2);
   }
@@ -76,7 +88,9 @@ void frmPreferences::AddChooser(int owner, QGridLayout& layout, int row) {
   swatch->Image().setAccessibleName(QString("%1 image").arg(names.part));
   layout.addWidget(button, row, 0);
   layout.addWidget(swatch, row, 1);
-  layout.setColumnStretch(0, 1);
+  // As wide with one caption as with the other.
+  layout.setColumnMinimumWidth(
+      0, fontMetrics().horizontalAdvance("Highlight Image...") + 2 * CaptionMargin);
   choosers_[owner] = {button, swatch};
 }
 
@@ -113,6 +127,7 @@ QGroupBox* frmPreferences::AddProgramFrame() {
 
 QLayout* frmPreferences::AddClosingButtons() {
   auto* layout = new QHBoxLayout;
+  layout->setSpacing(ButtonGap);
   layout->addStretch();
   QPushButton* cmdOK = AddButton("cmdOK", "OK", &frmPreferences::cmdOK_Click);
   cmdOK->setDefault(true);

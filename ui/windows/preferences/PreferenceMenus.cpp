@@ -1,5 +1,6 @@
 #include "ui/windows/preferences/PreferenceMenus.h"
 
+#include <QPainter>
 #include <QPixmap>
 
 #include "ui/support/SystemColors.h"
@@ -11,6 +12,8 @@ using namespace PreferenceEntry;
 // These two have no meaning of their own.
 constexpr int OtherSeparator = -1;
 constexpr int Cancel = -2;
+
+constexpr int SampleSide = 16;
 
 constexpr const char* SystemColorNames[SystemColorCount] = {
     "Scroll Bar",
@@ -57,12 +60,21 @@ void ShowFrameWidth(const QMenu& menu, bool visible) {
   EntryOf(menu, FrameWidth)->setVisible(visible);
 }
 
+QPixmap Sample(const QColor& color, const QMenu& menu) {
+  QPixmap sample(QSize(SampleSide, SampleSide) * menu.devicePixelRatioF());
+  sample.fill(color);
+  QPainter painter(&sample);
+  painter.setPen(menu.palette().color(QPalette::Dark));
+  painter.drawRect(sample.rect().adjusted(0, 0, -1, -1));
+  painter.end();
+  sample.setDevicePixelRatio(menu.devicePixelRatioF());
+  return sample;
+}
+
 // The desktop's colours at this moment.
-void PaintIcons(const QMenu& menu) {
+void ShowSamples(const QMenu& menu) {
   for (int index = 0; index < SystemColorCount; ++index) {
-    QPixmap sample(16, 16);
-    sample.fill(ResolveColor(SystemColor(index), menu.palette()));
-    EntryOf(menu, index)->setIcon(sample);
+    EntryOf(menu, index)->setIcon(Sample(ResolveColor(SystemColor(index), menu.palette()), menu));
   }
 }
 
@@ -105,7 +117,7 @@ void PreferenceMenus::AddSeparator(QMenu& menu, int index) {
 }
 
 std::optional<int> PreferenceMenus::PopUpSystemColors(const QPoint& place, bool withFrameWidth) {
-  PaintIcons(*mnuSystemColors_);
+  ShowSamples(*mnuSystemColors_);
   return PopUp(*mnuSystemColors_, place, withFrameWidth);
 }
 

@@ -116,7 +116,10 @@ PreviewBoard::PreviewBoard(const BoardLook& look, QWidget* parent) : QWidget(par
 }
 
 void PreviewBoard::SetupLittleChessboard(int index) {
+  // Only the selected cell is a stop of the tab key.
+  for (PreviewCell* cell : pctGrid_) cell->setFocusPolicy(Qt::ClickFocus);
   PreviewCell* cell = pctGrid_[static_cast<std::size_t>(index)];
+  cell->setFocusPolicy(Qt::StrongFocus);
   const QSignalBlocker blocker(cell);
   cell->setChecked(true);
   selectedX_ = ColumnOf(index);

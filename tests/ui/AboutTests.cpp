@@ -1,0 +1,217 @@
+#include <QLabel>
+#include <QPushButton>
+#include <QSet>
+#include <QTest>
+
+#include "tests/ui/Desk.h"
+#include "ui/support/Firework.h"
+#include "ui/windows/frmAbout.h"
+
+namespace {
+
+// The colours that a screen of few colours has for the initials and the title.
+const QList<QRgb> FewColors{0xFF00FF00, 0xFF00FFFF, 0xFFFFFF00, 0xFFFFFFFF,
+                            0xFFFF00FF, 0xFFC0C0C0, 0xFFFF0000, 0xFF0000FF};
+
+class About : public Desk {
+ protected:
+  void InAbout(const std::function<void(frmAbout& window)>& work) {
+    WhenNextModalOpens([work](QWidget& modal) {
+      auto* window = qobject_cast<frmAbout*>(&modal);
+      ASSERT_NE(window, nullptr);
+      work(*window);
+      if (window->isVisible()) window->reject();
+    });
+    Choose("mnuHelpAbout");
+    EXPECT_TRUE(AllVisitsMade());
+  }
+
+  static QImage Picture(QWidget& window) {
+    return Child<FireworkView>(window, "picAboutImage").Picture().toImage();
+  }
+
+  static void DoubleClick(QWidget& window) {
+    QTest::mouseDClick(&Child<QWidget>(window, "picAboutImage"), Qt::LeftButton);
+  }
+
+  // Waits until the animation has drawn something more.
+  static void WaitForPass(QWidget& window) {
+    const QImage before = Picture(window);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Picture(window) != before; }));
+  }
+
+  // All colours that are seen after some passes on black.
+  QSet<QRgb> ColorsOfPasses(bool manyColors, int passes) {
+    Open();
+    frmAbout window(globals, manyColors, &Window());
+    auto& view = Child<FireworkView>(window, "picAboutImage");
+    view.Clear(Qt::black);
+    window.picAboutImage_DblClick();
+    auto& timer = Child<QTimer>(window, "tmrAnimation");
+    for (int pass = 0; pass < passes; ++pass) {
+      QTimerEvent tick(timer.timerId());
+      QCoreApplication::sendEvent(&timer, &tick);
+    }
+    const QImage seen = view.Picture().toImage();
+    QSet<QRgb> colors;
+    for (int y = 0; y < seen.height(); ++y) {
+      for (int x = 0; x < seen.width(); ++x) colors.insert(seen.pixel(x, y));
+    }
+    window.done(QDialog::Rejected);
+    return colors;
+  }
+};
+
+QString TextOf(QWidget& window, const char* label) {
+  return Child<QLabel>(window, label).text();
+}
+
+}  // namespace
+
+TEST_F(About, TellsWhatTheProgramIs) {
+  Open();
+  InAbout([](frmAbout& window) {
+    EXPECT_EQ(window.windowTitle(), "About Gallopade Nova");
+    EXPECT_EQ(TextOf(window, "lblProgramTitle"), "Gallopade Nova");
+    EXPECT_TRUE(TextOf(window, "lblDisclaimer").contains("\"as is\""));
+    EXPECT_TRUE(TextOf(window, "lblDisclaimer").contains("without warranties"));
+    EXPECT_FALSE(TextOf(window, "lblOwner").isEmpty());
+    for (const char* label : {"lblProgramTitle", "lblVersion", "lblDisclaimer", "lblOwner"}) {
+      EXPECT_EQ(Child<QLabel>(window, label).font().family(), "Arial") << label;
+    }
+  });
+}
+
+TEST_F(About, TellsVersionAndBuild) {
+  QCoreApplication::setApplicationVersion("2.1.7");
+  Open();
+  InAbout([](frmAbout& window) {
+    EXPECT_EQ(TextOf(window, "lblVersion"), "Version 2.1 (Build 7.32bit.050216-1945)");
+  });
+  QCoreApplication::setApplicationVersion(QString());
+}
+
+TEST_F(About, ShowsThePictureOfTheSettings) {
+  QImage picture(60, 45, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  ASSERT_TRUE(picture.save(ProgramFile("mine.bmp")));
+  Open("[Settings]\nAbout Image=mine.bmp\n");
+  InAbout([](frmAbout& window) {
+    const QImage seen = Picture(window);
+    EXPECT_EQ(seen.pixelColor(seen.rect().center()), QColor(Qt::red));
+    EXPECT_EQ(seen.pixelColor(0, 0), QColor(Qt::red));
+  });
+}
+
+TEST_F(About, ShowsAPictureInItsProportions) {
+  QImage picture(45, 45, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  ASSERT_TRUE(picture.save(ProgramFile("About.gif"), "BMP"));
+  Open();
+  InAbout([](frmAbout& window) {
+    const QImage seen = Picture(window);
+    EXPECT_EQ(seen.pixelColor(seen.rect().center()), QColor(Qt::red));
+    EXPECT_EQ(seen.pixelColor(0, 0), window.palette().color(QPalette::Window));
+  });
+}
+
+TEST_F(About, ShowsTheWindowsIconWithoutAPicture) {
+  QPixmap icon(64, 64);
+  icon.fill(Qt::blue);
+  Open("[Settings]\nAbout Image=missing.gif\n");
+  Window().setWindowIcon(QIcon(icon));
+  InAbout([](frmAbout& window) {
+    const QImage seen = Picture(window);
+    EXPECT_EQ(seen.pixelColor(seen.rect().center()), QColor(Qt::blue));
+  });
+}
+
+TEST_F(About, ClosesOnOkEnterAndEscape) {
+  Open();
+  InAbout([](frmAbout& window) {
+    QTest::mouseClick(&Child<QPushButton>(window, "cmdOK"), Qt::LeftButton);
+  });
+  InAbout([](frmAbout& window) { QTest::keyClick(&window, Qt::Key_Return); });
+  InAbout([](frmAbout& window) { QTest::keyClick(&window, Qt::Key_Escape); });
+}
+
+TEST_F(About, RestsTheClock) {
+  Open();
+  ClickSquare(1, 2);
+  InAbout([this](frmAbout&) { EXPECT_FALSE(Window().IsClockEnabled()); });
+  EXPECT_TRUE(Window().IsClockEnabled());
+}
+
+TEST_F(About, StandsStillUntilThePictureIsDoubleClicked) {
+  Open();
+  InAbout([](frmAbout& window) {
+    QTest::mouseClick(&Child<QWidget>(window, "picAboutImage"), Qt::LeftButton);
+    EXPECT_FALSE(Child<QTimer>(window, "tmrAnimation").isActive());
+    DoubleClick(window);
+    EXPECT_TRUE(Child<QTimer>(window, "tmrAnimation").isActive());
+    WaitForPass(window);
+  });
+}
+
+TEST_F(About, DrawsOverThePicture) {
+  QImage picture(300, 225, QImage::Format_RGB32);
+  picture.fill(QColor(1, 2, 3));
+  ASSERT_TRUE(picture.save(ProgramFile("About.gif"), "BMP"));
+  Open();
+  InAbout([](frmAbout& window) {
+    DoubleClick(window);
+    WaitForPass(window);
+    EXPECT_EQ(Picture(window).pixelColor(290, 5), QColor(1, 2, 3));
+  });
+}
+
+TEST_F(About, RunsOnAfterASecondDoubleClick) {
+  Open();
+  InAbout([](frmAbout& window) {
+    DoubleClick(window);
+    WaitForPass(window);
+    DoubleClick(window);
+    WaitForPass(window);
+  });
+}
+
+TEST_F(About, EndsItsAnimationWithTheWindow) {
+  Open();
+  frmAbout window(globals, true, &Window());
+  window.show();
+  window.picAboutImage_DblClick();
+  window.reject();
+  EXPECT_FALSE(Child<QTimer>(window, "tmrAnimation").isActive());
+}
+
+TEST_F(About, PutsTheTwoWordsOfTheTitleIntoTheirPlaces) {
+  Open();
+  frmAbout window(globals, true, &Window());
+  auto& view = Child<FireworkView>(window, "picAboutImage");
+  view.Clear(Qt::black);
+  window.picAboutImage_DblClick();
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return view.Picture().toImage().pixelColor(7, 40) == Qt::yellow; }));
+  const QImage seen = view.Picture().toImage();
+  EXPECT_EQ(seen.pixelColor(11, 87), QColor(Qt::yellow));
+  window.done(QDialog::Rejected);
+}
+
+TEST_F(About, MixesItsColorsOnAScreenOfMany) {
+  const QSet<QRgb> colors = ColorsOfPasses(true, 500);
+  // Red in three steps, green and blue in two; the title is yellow.
+  for (const int red : {0, 128, 255}) {
+    for (const int green : {0, 128}) {
+      for (const int blue : {0, 128}) {
+        EXPECT_TRUE(colors.contains(qRgb(red, green, blue))) << red << green << blue;
+      }
+    }
+  }
+  EXPECT_TRUE(colors.contains(0xFFFFFF00));
+  EXPECT_FALSE(colors.contains(0xFF0000FF));
+}
+
+TEST_F(About, HasSevenColorsAndABlueTitleOnAScreenOfFew) {
+  const QSet<QRgb> colors = ColorsOfPasses(false, 500);
+  for (const QRgb color : FewColors) EXPECT_TRUE(colors.contains(color)) << std::hex << color;
+}
