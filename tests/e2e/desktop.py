@@ -83,7 +83,7 @@ class Desktop:
     def _start_x_server(self):
         read_end, write_end = os.pipe()
         self._start(["Xvfb", "-displayfd", str(write_end), "-screen", "0", self.screen,
-                     "-nolisten", "tcp"], pass_fds=[write_end])
+                     "-nolisten", "tcp", "-noreset"], pass_fds=[write_end])
         os.close(write_end)
         with os.fdopen(read_end) as number:
             return ":" + number.readline().strip()

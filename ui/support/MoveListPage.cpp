@@ -57,12 +57,7 @@ class PagePainter {
       : document_(document), painter_(&document), scale_(document.resolution() / PointsOfInch) {}
 
   void Write(const Line& line) {
-    const double height = HeightOf(line);
-    if (y_ + height > document_.height()) {
-      document_.newPage();
-      y_ = 0;
-    }
-    y_ += height;
+    y_ += MetricsOf(line.front()).lineSpacing();
     x_ = 0;
     for (const Run& run : line) Write(run);
   }
@@ -71,8 +66,6 @@ class PagePainter {
   static QFont FontOf(const Run& run) { return QFont("Arial", run.points); }
 
   QFontMetricsF MetricsOf(const Run& run) const { return {FontOf(run), &document_}; }
-
-  double HeightOf(const Line& line) const { return MetricsOf(line.front()).lineSpacing(); }
 
   void Write(const Run& run) {
     painter_.setFont(FontOf(run));
