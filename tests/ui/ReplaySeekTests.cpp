@@ -106,6 +106,18 @@ TEST_F(ReplaySeek, KeepsTheSpeedWhenManualIsChosenTwice) {
   });
 }
 
+TEST_F(ReplaySeek, MovesNothingWhenTheBarChangesItsMeaning) {
+  Watch(10, [&](frmReplay& replay) {
+    const Shown shown(replay);
+    shown.Automatic().click();
+    shown.Bar().setValue(15);
+    TakeLog();
+    shown.Manual().click();
+    shown.Automatic().click();
+    EXPECT_EQ(TakeLog(), Steps{});
+  });
+}
+
 TEST_F(ReplaySeek, AdvancesAtOnceWhenAutomaticIsChosen) {
   Watch(10, [&](frmReplay& replay) {
     Shown(replay).Automatic().click();

@@ -24,29 +24,10 @@ class ReplayStorm : public ReplayTest {
   }
 
   void Act(frmReplay& replay) {
-    const Shown shown(replay);
-    switch (Below(12)) {
-      case 0:
-      case 1:
-      case 2:
-        return replay.tmrAdvance_Timer();
-      case 3:
-      case 4:
-        return shown.Bar().setValue(1 + Below(shown.Bar().maximum()));
-      case 5:
-        return shown.Button("cmdAdvancePause").click();
-      case 6:
-        return shown.Button("cmdRestart").click();
-      case 7:
-        return shown.Button("cmdFinish").click();
-      case 8:
-        return shown.Automatic().click();
-      case 9:
-        return shown.Manual().click();
-      case 10:
-        return shown.Bar().triggerAction(QAbstractSlider::SliderPageStepAdd);
-      default:
-        if (Below(20) == 0) shown.Button("cmdClose").click();
+    if (Below(200) == 0) {
+      replay.cmdClose_Click();
+    } else {
+      PressAnything(replay, random_);
     }
   }
 

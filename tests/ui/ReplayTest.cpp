@@ -74,3 +74,31 @@ testing::AssertionResult ReplayTest::Agrees(frmReplay& replay) const {
   if (shown.Text("lblSpeedSeekValue") != position) return wrong("the move sought");
   return testing::AssertionSuccess();
 }
+
+void PressAnything(frmReplay& replay, std::mt19937& random) {
+  const auto below = [&random](int count) {
+    return std::uniform_int_distribution<int>(0, count - 1)(random);
+  };
+  const Shown shown(replay);
+  switch (below(11)) {
+    case 0:
+    case 1:
+    case 2:
+      return replay.tmrAdvance_Timer();
+    case 3:
+    case 4:
+      return shown.Bar().setValue(1 + below(shown.Bar().maximum()));
+    case 5:
+      return shown.Button("cmdAdvancePause").click();
+    case 6:
+      return shown.Button("cmdRestart").click();
+    case 7:
+      return shown.Button("cmdFinish").click();
+    case 8:
+      return shown.Automatic().click();
+    case 9:
+      return shown.Manual().click();
+    default:
+      return shown.Bar().triggerAction(QAbstractSlider::SliderPageStepAdd);
+  }
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <random>
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -54,3 +55,7 @@ class Shown {
 
   frmReplay& replay_;
 };
+
+// What a player who has lost patience does: ticks, drags, presses, changes of mode, and now and
+// then a close.
+void PressAnything(frmReplay& replay, std::mt19937& random);
