@@ -1,12 +1,31 @@
 #include "ui/support/QtDialogs.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
+
+namespace {
+
+// Room beside the text for the icon and the box's own margins.
+constexpr int BoxMargin = 160;
+
+// The texts come in lines of their own; a box keeps them whole as far as the screen allows.
+void KeepLinesWhole(QMessageBox& box) {
+  auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+  if (label == nullptr) return;
+  const int widest = label->fontMetrics().size(0, box.text()).width();
+  label->setMinimumWidth(std::min(widest + 1, box.screen()->availableSize().width() - BoxMargin));
+}
+
+}  // namespace
 
 QWidget* QtDialogs::Parent() const {
   QWidget* dialog = QApplication::activeModalWidget();
@@ -54,6 +73,7 @@ std::optional<QString> QtDialogs::InputBox(const QString& title, const QString& 
 bool QtDialogs::Ask(const QString& title, const QString& text, DefaultAnswer defaultAnswer) {
   QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, Parent());
   box.setTextFormat(Qt::PlainText);
+  KeepLinesWhole(box);
   box.setDefaultButton(defaultAnswer == DefaultAnswer::Yes ? QMessageBox::Yes : QMessageBox::No);
   return box.exec() == QMessageBox::Yes;
 }
@@ -63,6 +83,7 @@ void QtDialogs::Tell(const QString& title, const QString& text, MessageIcon icon
       icon == MessageIcon::Information ? QMessageBox::Information : QMessageBox::Warning;
   QMessageBox box(symbol, title, text, QMessageBox::Ok, Parent());
   box.setTextFormat(Qt::PlainText);
+  KeepLinesWhole(box);
   box.exec();
 }
 
