@@ -184,6 +184,19 @@ TEST_F(About, EndsItsAnimationWithTheWindow) {
   EXPECT_FALSE(Child<QTimer>(window, "tmrAnimation").isActive());
 }
 
+TEST_F(About, RestsItsAnimationWhileItIsNotSeen) {
+  Open();
+  InAbout([](frmAbout& window) {
+    DoubleClick(window);
+    QHideEvent hidden;
+    QCoreApplication::sendEvent(&window, &hidden);
+    EXPECT_FALSE(Child<QTimer>(window, "tmrAnimation").isActive());
+    QShowEvent shown;
+    QCoreApplication::sendEvent(&window, &shown);
+    EXPECT_TRUE(Child<QTimer>(window, "tmrAnimation").isActive());
+  });
+}
+
 TEST_F(About, PutsTheTwoWordsOfTheTitleIntoTheirPlaces) {
   Open();
   frmAbout window(globals, true, &Window());

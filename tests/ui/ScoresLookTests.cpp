@@ -1,7 +1,6 @@
-#include <cmath>
-
 #include <QApplication>
 
+#include "tests/ui/Contrast.h"
 #include "tests/ui/EndgameDesk.h"
 
 namespace {
@@ -9,21 +8,6 @@ namespace {
 // Large or bold letters are legible from this contrast on, small ones from the other.
 constexpr double LargeText = 3.0;
 constexpr double SmallText = 4.5;
-
-double Linear(double channel) {
-  return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double Luminance(const QColor& color) {
-  return 0.2126 * Linear(color.redF()) + 0.7152 * Linear(color.greenF()) +
-         0.0722 * Linear(color.blueF());
-}
-
-double Contrast(const QColor& one, const QColor& other) {
-  const double a = Luminance(one) + 0.05;
-  const double b = Luminance(other) + 0.05;
-  return std::max(a, b) / std::min(a, b);
-}
 
 QPalette Desktop(const QColor& base, const QColor& text) {
   QPalette palette = QApplication::palette();

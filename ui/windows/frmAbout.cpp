@@ -208,3 +208,13 @@ bool frmAbout::eventFilter(QObject* watched, QEvent* event) {
   if (doubleClick) picAboutImage_DblClick();
   return doubleClick || QDialog::eventFilter(watched, event);
 }
+
+void frmAbout::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (AnimationRunning_) tmrAnimation_.start();
+}
+
+void frmAbout::hideEvent(QHideEvent* event) {
+  tmrAnimation_.stop();
+  QDialog::hideEvent(event);
+}

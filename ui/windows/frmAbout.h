@@ -10,8 +10,8 @@ class FireworkView;
 class QLabel;
 class QVBoxLayout;
 
-// Tells what the program is. A double-click on its picture starts an animation, which runs until
-// the window is closed.
+// Tells what the program is. A double-click on its picture starts an animation, which runs for as
+// long as the window is seen.
 class frmAbout : public QDialog {
   Q_OBJECT
 
@@ -24,6 +24,10 @@ class frmAbout : public QDialog {
 
   void done(int result) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
  private:
   void Form_Load();
