@@ -1,115 +1,117 @@
 #include "solver/TourSearch.h"
 
-#include <algorithm>
 #include <bit>
 
-#include "solver/TourTables.h"
-
-using TourTables::Of;
-
-inline std::size_t TourSearch::Squares::TakeNext() {
-  if (down != 0) {
-    const auto next = static_cast<std::size_t>(std::countr_zero(down));
-    down &= down - 1;
-    return next;
-  }
-  const auto next = static_cast<std::size_t>(std::countr_zero(up));
-  up &= up - 1;
-  return Of.downOfUp[next];
-}
-
-inline void TourSearch::Squares::Toggle(std::size_t square) {
-  down ^= std::uint64_t{1} << square;
-  up ^= Of.upBit[square];
-}
-
-inline TourSearch::Squares TourSearch::CandidatesFrom(std::size_t square, const Squares& visited) {
-  return {Of.down[square] & ~visited.down, Of.up[square] & ~visited.up};
-}
-
 TourSearch::TourSearch(const GameState& game)
-    : start_(game.MoveCount), depth_(game.MoveCount), deepest_(game.MoveCount) {
-  for (std::size_t i = 0; i < static_cast<std::size_t>(depth_); ++i) {
-    const int index = SquareIndex(game.MoveList[i].x, game.MoveList[i].y);
-    path_[i] = Of.downLabel[static_cast<std::size_t>(index)];
+    : start_(&levels_[static_cast<std::size_t>(game.MoveCount)]), level_(start_) {
+  for (std::size_t i = 0; i < static_cast<std::size_t>(game.MoveCount); ++i) {
+    levels_[i + 1].subtree.knight = SquareIndex(game.MoveList[i].x, game.MoveList[i].y);
   }
+  SquareSet free = 0;
   for (int index = 0; index < SquareCount; ++index) {
-    if (game.Cell(ColumnOf(index), RowOf(index)) == GameState::Unvisited) continue;
-    visited_.Toggle(Of.downLabel[static_cast<std::size_t>(index)]);
+    if (game.Cell(ColumnOf(index), RowOf(index)) == GameState::Unvisited) free |= OneSquare(index);
   }
+  // The list of a game from a file may name squares twice and be full before the board is. How far
+  // the search gets from a square then depends on more than the squares within reach.
+  folding_ = std::popcount(free) == SquareCount - game.MoveCount;
+  const int knight = start_->subtree.knight;
+  start_->Enter({free | OneSquare(knight), knight, folding_},
+                KnightTargets[static_cast<std::size_t>(knight)] & free);
 }
 
 MoveRow TourSearch::Move(int i) const {
-  const int index = Of.index[path_[static_cast<std::size_t>(i)]];
+  const int index = levels_[static_cast<std::size_t>(i) + 1].subtree.knight;
   return {static_cast<std::int16_t>(ColumnOf(index)), static_cast<std::int16_t>(RowOf(index))};
 }
 
-TourSearch::Outcome TourSearch::Run(std::int64_t entries) {
-  if (entered_) return Walk(entries);
-  entered_ = true;
-  ++entries_;
-  if (depth_ == SquareCount) return Outcome::Solved;
-  const auto start = static_cast<std::size_t>(start_);
-  candidates_[start] = CandidatesFrom(path_[start - 1], visited_);
-  return entries == 1 ? Outcome::Paused : Walk(entries - 1);
+inline void TourSearch::Level::Enter(const Subtree& newSubtree, SquareSet newTargets) {
+  subtree = newSubtree;
+  within = newSubtree.squares & ~OneSquare(newSubtree.knight);
+  targets = newTargets;
+  part = 0;
+  tries = TriesTo(newSubtree.knight, newTargets);
 }
 
-// One turn takes one candidate, or one step back when there is none left. A candidate from which no
-// move leads on costs an entry and nothing else, unless the search pauses on it. What changes in
-// every turn is held in locals, that is in registers.
-TourSearch::Outcome TourSearch::Walk(std::int64_t entries) {
-  std::int64_t left = entries;
-  Squares visited = visited_;
-  auto depth = static_cast<std::size_t>(depth_);
-  auto deepest = static_cast<std::size_t>(deepest_);
-  const auto start = static_cast<std::size_t>(start_);
-  Squares here = candidates_[depth];
-  Outcome outcome = Outcome::Exhausted;
+inline int TourSearch::Level::TakeTry() {
+  const int target = NextTarget(subtree.knight, tries);
+  tries &= tries - 1;
+  return target;
+}
 
-  for (;;) {
-    if (here.Empty()) {
-      if (depth == start) break;
-      --depth;
-      visited.Toggle(path_[depth]);
-      here = candidates_[depth];
-      continue;
-    }
-    const std::size_t next = here.TakeNext();
-    const Squares beyond = CandidatesFrom(next, visited);
-    path_[depth] = static_cast<std::uint8_t>(next);
-    --left;
-    deepest = std::max(deepest, depth + 1);
-    if (beyond.Empty() && left != 0 && depth + 1 != SquareCount) continue;
+// `onward` is what a move leads to from the target. Without the square of this level, what is
+// within reach may fall into parts that no move connects. Every part holds one of the targets, so
+// that a part with all of them is the whole.
+inline Subtree TourSearch::Level::SubtreeAt(int target, SquareSet onward) {
+  const SquareSet square = OneSquare(target);
+  if ((part & square) == 0) {
+    part = HasTwo(targets) ? Reachable(square | onward, targets, within) : within;
+  }
+  return {part, target, subtree.closing && part == within};
+}
 
-    candidates_[depth] = here;
-    visited.Toggle(next);
-    here = beyond;
-    ++depth;
-    if (depth == SquareCount || left == 0) {
-      outcome = depth == SquareCount ? Outcome::Solved : Outcome::Paused;
-      break;
+inline void TourSearch::Leave() {
+  if (level_->kept) sizes_.Keep(level_->subtree, entries_ - level_->entriesBefore);
+  --level_;
+}
+
+// Makes the entries of a subtree that need not be walked, because the search does not pause in it.
+inline bool TourSearch::Skip(std::int64_t entries) {
+  if (entries >= pauseAt_ - entries_) return false;
+  entries_ += entries;
+  return true;
+}
+
+inline void TourSearch::Try() {
+  const int target = level_->TakeTry();
+  const SquareSet onward = KnightTargets[static_cast<std::size_t>(target)] & level_->within;
+  Level* const next = level_ + 1;
+  next->subtree.knight = target;
+  if (onward == 0 && next != &levels_[SquareCount] && Skip(1)) return;
+
+  const Subtree subtree = level_->SubtreeAt(target, onward);
+  const bool kept = folding_ && HasTwo(onward);
+  if (kept && Skip(sizes_.Find(subtree))) return;
+
+  level_ = next;
+  level_->Enter(subtree, onward);
+  level_->kept = kept;
+  level_->entriesBefore = entries_;
+  ++entries_;
+}
+
+// A full list of moves ends the way there. With a square still free beside the knight it is no
+// tour.
+inline bool TourSearch::IsTour() {
+  if (level_ != &levels_[SquareCount]) return false;
+  level_->tries = 0;
+  return level_->targets == 0;
+}
+
+TourSearch::Outcome TourSearch::Run(std::int64_t entries) {
+  pauseAt_ = entries_ + entries;
+  if (entries_ == 0) {
+    ++entries_;
+    if (IsTour()) return Outcome::Solved;
+  }
+  while (entries_ != pauseAt_) {
+    if (level_->tries != 0) {
+      Try();
+      if (IsTour()) return Outcome::Solved;
+    } else if (level_ != start_) {
+      Leave();
+    } else {
+      return Outcome::Exhausted;
     }
   }
-
-  visited_ = visited;
-  depth_ = static_cast<int>(depth);
-  deepest_ = static_cast<int>(deepest);
-  candidates_[depth] = here;
-  entries_ += entries - left;
-  return outcome;
+  return Outcome::Paused;
 }
 
 TourSearch::Outcome TourSearch::Unwind() {
-  for (;;) {
-    const auto depth = static_cast<std::size_t>(depth_);
-    while (!candidates_[depth].Empty()) {
-      if (depth_ + 1 == SquareCount) return Walk(1);
-      path_[depth] = static_cast<std::uint8_t>(candidates_[depth].TakeNext());
-      deepest_ = std::max(deepest_, depth_ + 1);
-      ++entries_;
+  for (;; --level_) {
+    while (level_ == &levels_[SquareCount - 1] && level_->tries != 0) {
+      if (Run(1) == Outcome::Solved) return Outcome::Solved;
     }
-    if (depth_ == start_) return Outcome::Exhausted;
-    --depth_;
-    visited_.Toggle(path_[static_cast<std::size_t>(depth_)]);
+    for (; level_->tries != 0; ++entries_) level_[1].subtree.knight = level_->TakeTry();
+    if (level_ == start_) return Outcome::Exhausted;
   }
 }

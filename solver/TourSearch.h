@@ -4,12 +4,21 @@
 #include <cstdint>
 
 #include "core/GameState.h"
+#include "solver/SquareSet.h"
+#include "solver/SubtreeSizes.h"
+#include "solver/TourOrder.h"
 
 // The bare search for a tour: depth first, in the order of TourMoveOffsets, exhaustive. It works on
 // bits of its own and can be paused after any number of entries.
 //
 // An entry is made for the square that the search begins on and for every square that it tries. The
 // square of the last entry is the one that the knight stands on while the search is paused.
+//
+// Folding: what happens below a square depends only on the squares that can still be reached from
+// there. The same few squares are reached in the same shape over and over, so the number of entries
+// made below each of them is kept, and where it comes up again with enough entries still to be made
+// before the next pause, it is added up instead of walked. A pause always falls into a subtree that
+// is walked, and so does a tour, since a subtree with a tour in it is never left.
 class TourSearch {
  public:
   enum class Outcome {
@@ -18,11 +27,14 @@ class TourSearch {
     Exhausted,  // all that can be tried has been tried
   };
 
+  TourSearch(const TourSearch&) = delete;
+  TourSearch& operator=(const TourSearch&) = delete;
+
   // Goes on from the moves made in this game, at least one; the squares visited are those of its
   // board. The entry for the square that the knight stands on is still to be made.
   explicit TourSearch(const GameState& game);
 
-  // Makes so many more entries, at least one, unless the search ends before.
+  // Makes so many more entries, at least one, unless the search ends before. Allocates nothing.
   Outcome Run(std::int64_t entries);
 
   // Ends a paused search in the way in which a stop does: every square that was still to be tried
@@ -30,34 +42,41 @@ class TourSearch {
   Outcome Unwind();
 
   std::int64_t Entries() const { return entries_; }
-  int MoveCount() const { return depth_; }
-  // The square of move number i; behind MoveCount, the square that was tried there last.
+  int MoveCount() const { return static_cast<int>(level_ - levels_.data()); }
+  // Some square was tried and left again.
+  bool HasTakenBack() const { return entries_ > 1 + (level_ - start_); }
+  // The square of move number i below MoveCount; at MoveCount, the square that was tried there
+  // last.
   MoveRow Move(int i) const;
-  // Move(i) is known for every i below: the most moves that were made at once.
-  int DeepestMove() const { return deepest_; }
 
  private:
-  // A set of squares in both labellings: one for candidates further down the board, which are tried
-  // first, and one for those further up. In each the next candidate is the lowest bit.
-  struct Squares {
-    std::uint64_t down = 0;
-    std::uint64_t up = 0;
+  // The search at one of its moves.
+  struct Level {
+    Subtree subtree;        // from the square of this move on
+    SquareSet within = 0;   // what the knight can still get to from there
+    SquareSet targets = 0;  // its next squares, tried or not
+    SquareSet part = 0;     // the part of `within` that holds the last of them that was looked into
+    Tries tries = 0;        // still to be made
+    bool kept = false;      // the size of the subtree is kept when it is left
+    std::int64_t entriesBefore = 0;
 
-    bool Empty() const { return (down | up) == 0; }
-    // Of a set that is not empty.
-    std::size_t TakeNext();
-    void Toggle(std::size_t square);
+    void Enter(const Subtree& newSubtree, SquareSet newTargets);
+    int TakeTry();
+    Subtree SubtreeAt(int target, SquareSet onward);
   };
 
-  static Squares CandidatesFrom(std::size_t square, const Squares& visited);
-  Outcome Walk(std::int64_t entries);
+  void Try();
+  void Leave();
+  bool Skip(std::int64_t entries);
+  bool IsTour();
 
-  Squares visited_;
-  int start_ = 0;  // moves that the search may not take back
-  int depth_ = 0;  // moves made
-  int deepest_ = 0;
-  bool entered_ = false;
+  // By the number of moves made; the level above the one where the search stands has the square
+  // that was tried last.
+  std::array<Level, SquareCount + 1> levels_{};
+  Level* const start_;  // the search does not go back below it
+  Level* level_;        // where it stands
   std::int64_t entries_ = 0;
-  std::array<std::uint8_t, SquareCount + 1> path_{};   // by move number
-  std::array<Squares, SquareCount + 1> candidates_{};  // what is still to be tried as that move
+  std::int64_t pauseAt_ = 0;
+  bool folding_ = false;
+  SubtreeSizes sizes_;
 };

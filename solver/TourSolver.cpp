@@ -1,23 +1,33 @@
 #include "solver/TourSolver.h"
 
+#include <algorithm>
+
 #include "solver/TourSearch.h"
 
 namespace {
 
-// Brings the live game to where the search stands, by the operations that a player's moves go
-// through. While SolverRunning is set none of it is seen.
-void FollowSearch(const SolveTask& task, const TourSearch& search) {
-  const auto agrees = [&](int i) {
-    return i < search.MoveCount() &&
-           task.state.MoveList[static_cast<std::size_t>(i)] == search.Move(i);
-  };
+int MovesInCommon(const GameState& state, const TourSearch& search) {
+  const int both = std::min<int>(state.MoveCount, search.MoveCount());
   int common = 0;
-  while (common < task.state.MoveCount && agrees(common)) ++common;
-  while (task.state.MoveCount > common) task.game.mnuEditUndo_Click();
-  while (task.state.MoveCount < search.MoveCount()) {
-    const MoveRow move = search.Move(task.state.MoveCount);
-    task.game.ValidMove(move.x, move.y);
+  while (common < both && state.MoveList[static_cast<std::size_t>(common)] == search.Move(common)) {
+    ++common;
   }
+  return common;
+}
+
+void MoveAsSearch(const SolveTask& task, const TourSearch& search) {
+  const MoveRow move = search.Move(task.state.MoveCount);
+  task.game.ValidMove(move.x, move.y);
+}
+
+// Brings the live game to where the search stands, by the operations that a player's moves go
+// through. While SolverRunning is set none of it is seen. A search that has taken moves back leaves
+// marks in the menus and at the cursor, so at least one is taken back here as well.
+void FollowSearch(const SolveTask& task, const TourSearch& search) {
+  const int common = MovesInCommon(task.state, search);
+  if (task.state.MoveCount == common && search.HasTakenBack()) MoveAsSearch(task, search);
+  while (task.state.MoveCount > common) task.game.mnuEditUndo_Click();
+  while (task.state.MoveCount < search.MoveCount()) MoveAsSearch(task, search);
 }
 
 void ShowAndYield(const SolveTask& task) {
@@ -32,18 +42,6 @@ void Redraw(const SolveTask& task, const TourSearch& search) {
   task.solver.SolveRefreshCounter = 0;
   FollowSearch(task, search);
   ShowAndYield(task);
-}
-
-// The squares that were tried last stay in the list as moves that could be redone, as if each of
-// them had been made and taken back on the board.
-void LeaveTriedMoves(const SolveTask& task, const TourSearch& search) {
-  if (search.DeepestMove() == task.state.MoveCount) return;
-  const MoveRow lastTried = search.Move(task.state.MoveCount);
-  task.game.ValidMove(lastTried.x, lastTried.y);
-  task.game.mnuEditUndo_Click();
-  for (int i = task.state.MoveCount; i < search.DeepestMove(); ++i) {
-    task.state.MoveList[static_cast<std::size_t>(i)] = search.Move(i);
-  }
 }
 
 TourSearch::Outcome SearchToTheEnd(const SolveTask& task, TourSearch& search) {
@@ -67,8 +65,6 @@ bool SolveTheGameNoRefresh(const SolveTask& task) {
   if (solved) {
     task.window.EnableClock(false);
     ShowAndYield(task);
-  } else {
-    LeaveTriedMoves(task, search);
   }
   return solved;
 }

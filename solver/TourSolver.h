@@ -36,7 +36,8 @@ struct SolveTask {
 
 // Finishes the tour from where the knight stands, trying every square in the fixed order until 64
 // are visited. True: the live game holds the tour. False: there is none, or the search was stopped;
-// the game is then where it was, with the squares last tried as moves to redo.
+// the game is then where it was. Moves that could be redone are lost: what the list holds behind
+// the moves made is for the caller to clear.
 //
 // The caller has set SolverRunning and ApplyingMoves; the game has its first square.
 bool SolveTheGameNoRefresh(const SolveTask& task);

@@ -1,164 +1,116 @@
 #include <random>
 
-#include "solver/TourMoves.h"
-#include "tests/solver/SolverTest.h"
+#include "tests/solver/LiteralSearch.h"
+#include "tests/solver/RandomPositions.h"
+#include "tests/solver/SolverDesk.h"
 
 namespace {
 
 constexpr int Positions = 1000;
+constexpr int Never = 0;
 
-// The search as it can be read: every trial move is made and taken back on the live game.
-class LiteralSearch {
- public:
-  LiteralSearch(Game& game, GameState& state, SolverState& solver, int refreshRate)
-      : game_(game), state_(state), solver_(solver), refreshRate_(refreshRate) {}
-
-  std::vector<std::string> redraws;
-  int stopAtRedraw = 0;  // 0: never
-
-  bool Solve() {
-    ++solver_.PositionsTested;
-    const bool over = game_.CheckIfGameOver(state_.KnightX, state_.KnightY);
-    if (over && state_.MoveCount == SquareCount) return true;
-    if (solver_.StopSolving) return false;
-    if (++solver_.SolveRefreshCounter > refreshRate_) Redraw();
-    return TryMoves();
-  }
-
- private:
-  void Redraw() {
-    solver_.SolveRefreshCounter = 0;
-    redraws.push_back(ProgressText(state_, solver_));
-    if (static_cast<int>(redraws.size()) == stopAtRedraw) solver_.StopSolving = true;
-  }
-
-  bool TryMoves() {
-    for (const Offset offset : TourMoveOffsets) {
-      const int x = state_.KnightX + offset.dx;
-      const int y = state_.KnightY + offset.dy;
-      if (!IsSquare(x, y) || state_.Cell(x, y) != GameState::Unvisited) continue;
-      game_.ValidMove(x, y);
-      if (Solve()) return true;
-      game_.mnuEditUndo_Click();
-    }
-    return false;
-  }
-
-  Game& game_;
-  GameState& state_;
-  SolverState& solver_;
-  int refreshRate_;
-};
-
-// A second game beside the tested one, on which the literal search runs.
-class LiteralGame : public SolverTest {
+// The same position twice: the solver works on one, the literal search on the other. Both change
+// the refresh rate and stop at the same redraws.
+class LiteralSearchTest : public testing::Test {
  protected:
-  // A random walk of at least 34 squares: what is left is searched in a moment.
-  std::vector<MoveRow> RandomPosition() {
-    for (;;) {
-      std::vector<MoveRow> moves = RandomWalk(34 + static_cast<int>(random_() % 26));
-      if (moves.size() >= 34) return moves;
+  void Compare(const std::vector<MoveRow>& moves, std::int16_t startingPosition,
+               const std::vector<std::int16_t>& rates, int stopAtRedraw) {
+    Prepare(tested_, moves, startingPosition, rates, stopAtRedraw);
+    Prepare(literal_, moves, startingPosition, rates, stopAtRedraw);
+    const bool solved = tested_.desk.Solve();
+    ASSERT_EQ(solved, literal_.desk.Solve(SolveLiterally));
+    ASSERT_EQ(tested_.sights, literal_.sights);
+    ASSERT_EQ(tested_.desk.redraws, literal_.desk.redraws);
+    ASSERT_EQ(tested_.desk.solver.PositionsTested, literal_.desk.solver.PositionsTested);
+    ASSERT_EQ(Sight(tested_.desk), Sight(literal_.desk));
+    // Which moves could be redone is never seen: the Solve command drops them.
+    tested_.desk.game.ClearRedo();
+    literal_.desk.game.ClearRedo();
+    ASSERT_EQ(tested_.desk.state.MoveList, literal_.desk.state.MoveList);
+  }
+
+  // All rates in turn.
+  std::vector<std::int16_t> RandomRates(std::size_t count, unsigned highest) {
+    std::vector<std::int16_t> rates(count);
+    for (std::int16_t& rate : rates) {
+      rate = static_cast<std::int16_t>(1 + random_() % highest);
     }
+    return rates;
   }
 
-  void BeginLiteral(const std::vector<MoveRow>& moves) {
-    literalOptions_.StartingX = moves.front().x;
-    literalOptions_.StartingY = moves.front().y;
-    literalGame.Form_Load("");
-    literalState.ApplyingMoves = true;
-    for (std::size_t i = 1; i < moves.size(); ++i) literalGame.ValidMove(moves[i].x, moves[i].y);
-    literalState.SolverRunning = true;
-    literalSolver = SolverState();
+  std::int16_t RandomStart() {
+    return random_() % 2 == 0 ? StartOnStoredSquare : StartOnPlayersChoice;
   }
 
-  void ExpectSameGame() {
-    literalState.SolverRunning = false;
-    EXPECT_EQ(state.Board, literalState.Board);
-    EXPECT_EQ(state.MoveCount, literalState.MoveCount);
-    EXPECT_EQ(state.MoveList, literalState.MoveList);
-    EXPECT_EQ(state.KnightX, literalState.KnightX);
-    EXPECT_EQ(state.KnightY, literalState.KnightY);
-    EXPECT_EQ(state.CursorX, literalState.CursorX);
-    EXPECT_EQ(state.CursorY, literalState.CursorY);
-    for (int entry = 0; entry < MenuEntryCount; ++entry) {
-      EXPECT_EQ(window.IsMenuEnabled(static_cast<MenuEntry>(entry)),
-                literalWindow.IsMenuEnabled(static_cast<MenuEntry>(entry)))
-          << entry;
-    }
-  }
-
-  GameState literalState;
-  RecordingWindow literalWindow;
-  SolverState literalSolver;
   std::mt19937 random_{20260101};
 
  private:
-  std::vector<MoveRow> RandomWalk(int length) {
-    GameState walk;
-    std::vector<MoveRow> moves;
-    int x = static_cast<int>(random_() % 8);
-    int y = static_cast<int>(random_() % 8);
-    for (int tries = 0; static_cast<int>(moves.size()) < length && tries < 400; ++tries) {
-      if (moves.empty()) {
-        moves.push_back({static_cast<std::int16_t>(x), static_cast<std::int16_t>(y)});
-        walk.Cell(x, y) = GameState::Visited;
-      }
-      const Offset offset = KnightMoveOffsets[random_() % 8];
-      if (!IsSquare(x + offset.dx, y + offset.dy)) continue;
-      if (walk.Cell(x + offset.dx, y + offset.dy) == GameState::Visited) continue;
-      x += offset.dx;
-      y += offset.dy;
-      walk.Cell(x, y) = GameState::Visited;
-      moves.push_back({static_cast<std::int16_t>(x), static_cast<std::int16_t>(y)});
-    }
-    return moves;
+  struct Side {
+    SolverDesk desk;
+    std::vector<std::string> sights;  // at every redraw
+  };
+
+  static void Prepare(Side& side, const std::vector<MoveRow>& moves, std::int16_t startingPosition,
+                      const std::vector<std::int16_t>& rates, int stopAtRedraw) {
+    side.desk.BeginWith(moves, startingPosition);
+    side.sights.clear();
+    side.desk.refreshRate = rates.front();
+    side.desk.onRedraw = [&side, rates, stopAtRedraw] {
+      const std::size_t redraws = side.desk.redraws.size();
+      side.sights.push_back(Sight(side.desk));
+      side.desk.refreshRate = rates[redraws % rates.size()];
+      if (static_cast<int>(redraws) == stopAtRedraw) side.desk.solver.StopSolving = true;
+      side.desk.ClearLog();
+    };
   }
 
-  GameOptions literalOptions_;
-
- protected:
-  Game literalGame{literalState, literalOptions_, literalWindow};
+  Side tested_;
+  Side literal_;
 };
 
 }  // namespace
 
-TEST_F(LiteralGame, GoesTheSameWayFromAThousandPositions) {
+TEST_F(LiteralSearchTest, GoesTheSameWayFromAThousandPositions) {
   for (int i = 0; i < Positions; ++i) {
     SCOPED_TRACE(i);
-    const std::vector<MoveRow> moves = RandomPosition();
-    refreshRate = static_cast<std::int16_t>(1 + random_() % 50);
-    BeginWith(moves);
-    const bool solved = Solve();
-
-    BeginLiteral(moves);
-    LiteralSearch literal(literalGame, literalState, literalSolver, refreshRate);
-    ASSERT_EQ(literal.Solve(), solved);
-    if (solved) redraws.pop_back();
-    ASSERT_EQ(redraws, literal.redraws);
-    ASSERT_EQ(solver.PositionsTested, literalSolver.PositionsTested);
-    ExpectSameGame();
-    literalWindow.log.clear();
+    Compare(RandomWalk(random_, 40, 60), RandomStart(), RandomRates(1, 50), Never);
+    if (HasFatalFailure()) return;
   }
 }
 
-TEST_F(LiteralGame, UnwindsTheSameWayWhereverItIsStopped) {
+TEST_F(LiteralSearchTest, UnwindsTheSameWayWhereverItIsStopped) {
   for (int i = 0; i < Positions; ++i) {
     SCOPED_TRACE(i);
-    const std::vector<MoveRow> moves = RandomPosition();
-    refreshRate = static_cast<std::int16_t>(1 + random_() % 9);
-    const int stopAt = 1 + static_cast<int>(random_() % 12);
-    BeginWith(moves);
-    onRedraw = [&] {
-      if (static_cast<int>(redraws.size()) == stopAt) solver.StopSolving = true;
-    };
-    const bool solved = Solve();
+    const int stopAtRedraw = 1 + static_cast<int>(random_() % 12);
+    Compare(RandomWalk(random_, 36, 60), RandomStart(), RandomRates(1, 9), stopAtRedraw);
+    if (HasFatalFailure()) return;
+  }
+}
 
-    BeginLiteral(moves);
-    LiteralSearch literal(literalGame, literalState, literalSolver, refreshRate);
-    literal.stopAtRedraw = stopAt;
-    ASSERT_EQ(literal.Solve(), solved);
-    ASSERT_EQ(solver.PositionsTested, literalSolver.PositionsTested);
-    ExpectSameGame();
-    literalWindow.log.clear();
+TEST_F(LiteralSearchTest, FollowsTheRefreshRateWhileItChanges) {
+  for (int i = 0; i < Positions / 10; ++i) {
+    SCOPED_TRACE(i);
+    Compare(RandomWalk(random_, 36, 60), RandomStart(), RandomRates(7, 300), Never);
+    if (HasFatalFailure()) return;
+  }
+}
+
+TEST_F(LiteralSearchTest, GoesTheSameWayFarFromTheEnd) {
+  for (int i = 0; i < Positions / 20; ++i) {
+    SCOPED_TRACE(i);
+    Compare(RandomWalk(random_, 1, 30), RandomStart(), RandomRates(3, 5000), 8);
+    if (HasFatalFailure()) return;
+  }
+}
+
+// Such a list is full while squares are still free.
+TEST_F(LiteralSearchTest, GoesTheSameWayWhenAGameFileNamedSquaresTwice) {
+  for (int i = 0; i < Positions / 10; ++i) {
+    SCOPED_TRACE(i);
+    std::vector<MoveRow> moves = RandomWalk(random_, 36, 60);
+    const std::size_t twice = 1 + random_() % 4;
+    moves.insert(moves.begin(), moves.begin(), moves.begin() + static_cast<std::ptrdiff_t>(twice));
+    Compare(moves, StartOnStoredSquare, RandomRates(3, 300), 100);
+    if (HasFatalFailure()) return;
   }
 }

@@ -3,7 +3,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "tests/solver/SolverTest.h"
+#include "tests/solver/SolverDesk.h"
 
 namespace {
 
@@ -37,31 +37,32 @@ std::string Hash(const std::vector<std::string>& texts) {
       .toStdString();
 }
 
-class SolverCases : public SolverTest, public testing::WithParamInterface<int> {};
+class SolverCases : public testing::TestWithParam<int> {};
 
 }  // namespace
 
 TEST_P(SolverCases, ComeOutToTheLastEntry) {
   const QJsonObject expected = QJsonDocument::fromJson(Cases()[GetParam()]).object();
-  refreshRate = static_cast<std::int16_t>(expected["refresh"].toInt());
+  SolverDesk desk;
+  desk.refreshRate = static_cast<std::int16_t>(expected["refresh"].toInt());
   const std::vector<MoveRow> moves = Squares(expected["moves"]);
-  BeginWith(moves);
-  const bool solved = Solve();
+  desk.BeginWith(moves);
+  const bool solved = desk.Solve();
 
   EXPECT_EQ(solved, expected["solved"].toBool());
-  EXPECT_EQ(solver.PositionsTested, expected["entries"].toInteger());
+  EXPECT_EQ(desk.solver.PositionsTested, expected["entries"].toInteger());
   if (solved) {
-    EXPECT_EQ(MovesMade(state), Squares(expected["tour"]));
-    redraws.pop_back();  // the tour itself
+    EXPECT_EQ(MovesMade(desk.state), Squares(expected["tour"]));
+    desk.redraws.pop_back();  // the tour itself
   } else {
-    EXPECT_EQ(MovesMade(state), moves);
+    EXPECT_EQ(MovesMade(desk.state), moves);
   }
-  EXPECT_EQ(static_cast<int>(redraws.size()), expected["redraws"].toInt());
+  EXPECT_EQ(static_cast<int>(desk.redraws.size()), expected["redraws"].toInt());
   const QJsonArray first = expected["first_redraws"].toArray();
   for (qsizetype i = 0; i < first.size(); ++i) {
-    EXPECT_EQ(redraws.at(static_cast<std::size_t>(i)), first[i].toString().toStdString());
+    EXPECT_EQ(desk.redraws.at(static_cast<std::size_t>(i)), first[i].toString().toStdString());
   }
-  EXPECT_EQ(Hash(redraws), expected["redraw_hash"].toString().toStdString());
+  EXPECT_EQ(Hash(desk.redraws), expected["redraw_hash"].toString().toStdString());
 }
 
 INSTANTIATE_TEST_SUITE_P(Positions, SolverCases, testing::Range(0, 20));
