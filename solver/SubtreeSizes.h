@@ -22,7 +22,7 @@ class SubtreeSizes {
  public:
   static constexpr std::int64_t Unknown = std::numeric_limits<std::int64_t>::max();
 
-  // The table takes 2 MB, the best that fits beside the second-level caches of today.
+  // The table takes 2 MB: a smaller one knows less, a larger one is waited for longer.
   SubtreeSizes() : rows_(std::size_t{1} << RowBits) {}
 
   std::int64_t Find(const Subtree& subtree) const {

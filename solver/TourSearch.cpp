@@ -50,7 +50,7 @@ inline Subtree TourSearch::Level::SubtreeAt(int target, SquareSet onward) {
 }
 
 inline void TourSearch::Leave() {
-  if (level_->kept) sizes_.Keep(level_->subtree, entries_ - level_->entriesBefore);
+  if (folding_) sizes_.Keep(level_->subtree, entries_ - level_->entriesBefore);
   --level_;
 }
 
@@ -69,12 +69,10 @@ inline void TourSearch::Try() {
   if (onward == 0 && next != &levels_[SquareCount] && Skip(1)) return;
 
   const Subtree subtree = level_->SubtreeAt(target, onward);
-  const bool kept = folding_ && HasTwo(onward);
-  if (kept && Skip(sizes_.Find(subtree))) return;
+  if (folding_ && Skip(sizes_.Find(subtree))) return;
 
   level_ = next;
   level_->Enter(subtree, onward);
-  level_->kept = kept;
   level_->entriesBefore = entries_;
   ++entries_;
 }

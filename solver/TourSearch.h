@@ -57,7 +57,6 @@ class TourSearch {
     SquareSet targets = 0;  // its next squares, tried or not
     SquareSet part = 0;     // the part of `within` that holds the last of them that was looked into
     Tries tries = 0;        // still to be made
-    bool kept = false;      // the size of the subtree is kept when it is left
     std::int64_t entriesBefore = 0;
 
     void Enter(const Subtree& newSubtree, SquareSet newTargets);
@@ -77,6 +76,6 @@ class TourSearch {
   Level* level_;        // where it stands
   std::int64_t entries_ = 0;
   std::int64_t pauseAt_ = 0;
-  bool folding_ = false;
+  bool folding_ = false;  // sizes are kept and used
   SubtreeSizes sizes_;
 };
