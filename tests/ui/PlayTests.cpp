@@ -155,5 +155,19 @@ TEST_F(Play, LetsAScreenReaderPressASquare) {
   QAccessibleInterface* board = QAccessible::queryAccessibleInterface(&Window().Board());
   QAccessibleInterface* square = board->tableInterface()->cellAt(1, 2);
   square->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  QCoreApplication::processEvents();
   EXPECT_EQ(State().MoveCount, 2);
+}
+
+TEST_F(Play, KeepsAScreenReaderOffTheBoardWhileADialogIsOpen) {
+  Open();
+  QAccessibleInterface* board = QAccessible::queryAccessibleInterface(&Window().Board());
+  QAccessibleInterface* square = board->tableInterface()->cellAt(1, 2);
+  WhenNextModalOpens([square](QWidget& modal) {
+    square->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::processEvents();
+    modal.close();
+  });
+  Choose("mnuHelpAbout");
+  EXPECT_EQ(State().MoveCount, 1);
 }

@@ -1,5 +1,7 @@
 #include "ui/board/AccessibleBoard.h"
 
+#include <QApplication>
+
 #include "ui/board/BoardView.h"
 
 namespace {
@@ -10,6 +12,15 @@ QAccessibleInterface* MakeAccessible(const QString& className, QObject* object) 
 }
 
 }  // namespace
+
+std::string_view DescribeSquare(const GameState& game, int square) {
+  const int x = ColumnOf(square);
+  const int y = RowOf(square);
+  if (!game.FirstMoveMade) return "can be reached";
+  if (x == game.KnightX && y == game.KnightY) return "knight";
+  if (game.Cell(x, y) == GameState::Visited) return "visited";
+  return IsKnightsMove(game.KnightX, game.KnightY, x, y) ? "can be reached" : "free";
+}
 
 AccessibleBoard::AccessibleBoard(BoardView& view)
     : QAccessibleWidget(&view, QAccessible::Table), view_(view) {}
@@ -50,9 +61,8 @@ QAccessibleInterface* AccessibleBoard::childAt(int x, int y) const {
 }
 
 QAccessibleInterface* AccessibleBoard::focusChild() const {
-  const GameState& game = view_.State();
-  if (!view_.hasFocus() || !IsSquare(game.CursorX, game.CursorY)) return nullptr;
-  return child(ChildOfSquare(SquareIndex(game.CursorX, game.CursorY)));
+  const int square = view_.SquareOfInterest();
+  return view_.hasFocus() && square != -1 ? child(ChildOfSquare(square)) : nullptr;
 }
 
 QAccessibleInterface* AccessibleBoard::cellAt(int row, int column) const {
@@ -80,10 +90,9 @@ QAccessibleInterface* AccessibleSquare::parent() const {
 }
 
 QAccessible::State AccessibleSquare::state() const {
-  const GameState& game = view_.State();
   QAccessible::State state;
   state.focusable = true;
-  state.focused = view_.hasFocus() && SquareIndex(game.CursorX, game.CursorY) == index_;
+  state.focused = view_.hasFocus() && view_.SquareOfInterest() == index_;
   state.invisible = !view_.isVisible();
   return state;
 }
@@ -98,22 +107,18 @@ QString AccessibleSquare::text(QAccessible::Text text) const {
     case QAccessible::Name:
       return QString::fromStdString(SquareName(ColumnOf(index_), RowOf(index_)));
     case QAccessible::Description:
-      return StateText();
+      return QString::fromUtf8(DescribeSquare(view_.State(), index_));
     default:
       return {};
   }
 }
 
-QString AccessibleSquare::StateText() const {
-  const GameState& game = view_.State();
-  const int x = ColumnOf(index_);
-  const int y = RowOf(index_);
-  if (!game.FirstMoveMade) return "can be reached";
-  if (x == game.KnightX && y == game.KnightY) return "knight";
-  if (game.Cell(x, y) == GameState::Visited) return "visited";
-  return IsKnightsMove(game.KnightX, game.KnightY, x, y) ? "can be reached" : "free";
-}
-
+// Later, since the screen reader waits for an answer and the press may open a dialog. An open
+// dialog keeps it from the board as it keeps the mouse.
 void AccessibleSquare::doAction(const QString& actionName) {
-  if (actionName == pressAction()) emit view_.SquareClicked(index_);
+  if (actionName != pressAction()) return;
+  const auto press = [&view = view_, square = index_] {
+    if (QApplication::activeModalWidget() == nullptr) emit view.SquareClicked(square);
+  };
+  QMetaObject::invokeMethod(&view_, press, Qt::QueuedConnection);
 }

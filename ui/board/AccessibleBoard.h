@@ -1,12 +1,17 @@
 #pragma once
 
 #include <array>
+#include <string_view>
 
 #include <QAccessibleWidget>
 
 #include "core/Square.h"
 
 class BoardView;
+struct GameState;
+
+// What there is to say about a square of the game, such as "visited".
+std::string_view DescribeSquare(const GameState& game, int square);
 
 // The board as a screen reader meets it: a table of 8 by 8 cells, each named by its square,
 // described by its state and pressed like a click.
@@ -90,8 +95,6 @@ class AccessibleSquare : public QAccessibleInterface,
   QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
  private:
-  QString StateText() const;
-
   BoardView& view_;
   int index_;
 };

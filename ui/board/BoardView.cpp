@@ -4,7 +4,6 @@
 #include <cmath>
 #include <utility>
 
-#include <QAccessible>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -66,17 +65,13 @@ QRegion BoardView::ChangedRegion() {
 void BoardView::ShowChanges() {
   const QRegion region = ChangedRegion();
   if (!region.isEmpty()) update(region);
-  if (QAccessible::isActive()) AnnounceCursor();
+  announcer_.Announce();
 }
 
-// The cursor goes along with the knight, so that a screen reader tells every move too.
-void BoardView::AnnounceCursor() {
-  const bool hasCursor = IsSquare(state_.CursorX, state_.CursorY);
-  const int square = hasCursor ? SquareIndex(state_.CursorX, state_.CursorY) : -1;
-  if (std::exchange(announcedSquare_, square) == square || square == -1) return;
-  QAccessibleEvent event(this, QAccessible::Focus);
-  event.setChild(AccessibleBoard::ChildOfSquare(square));
-  QAccessible::updateAccessibility(&event);
+int BoardView::SquareOfInterest() const {
+  if (IsSquare(state_.CursorX, state_.CursorY)) return SquareIndex(state_.CursorX, state_.CursorY);
+  const bool hasKnight = IsSquare(state_.KnightX, state_.KnightY);
+  return hasKnight ? SquareIndex(state_.KnightX, state_.KnightY) : -1;
 }
 
 void BoardView::ShowChangesNow() {
@@ -160,6 +155,11 @@ void BoardView::PaintBackground(QPainter& painter, const QRegion& region) {
 void BoardView::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   emit Resized();
+}
+
+void BoardView::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  announcer_.AnnounceAgain();
 }
 
 void BoardView::changeEvent(QEvent* event) {

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "core/GameState.h"
+#include "ui/board/BoardAnnouncer.h"
 #include "ui/board/BoardLayout.h"
 #include "ui/board/BoardModel.h"
 #include "ui/board/BoardPictures.h"
@@ -36,6 +37,9 @@ class BoardView : public QWidget {
   QRect SquareRectangle(int index) const;
   // -1 outside the board.
   int SquareAtPosition(QPointF position) const;
+  // The square that a screen reader is led to: the cursor's, or without a cursor the knight's; -1
+  // when there is neither.
+  int SquareOfInterest() const;
 
   // How many cells were painted since the program began.
   std::uint64_t PaintedCells() const { return paintedCells_; }
@@ -54,6 +58,7 @@ class BoardView : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void changeEvent(QEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -63,7 +68,6 @@ class BoardView : public QWidget {
  private:
   void PaintEverything();
   QRegion ChangedRegion();
-  void AnnounceCursor();
   void PaintCells(QPainter& painter, const QRegion& region);
   void PaintBackground(QPainter& painter, const QRegion& region);
 
@@ -77,6 +81,6 @@ class BoardView : public QWidget {
   CellPainter cellPainter_;
   QPixmap background_;  // the background image in its present size, made when first needed
   int pressedSquare_ = -1;
-  int announcedSquare_ = -1;
+  BoardAnnouncer announcer_{*this};
   std::uint64_t paintedCells_ = 0;
 };

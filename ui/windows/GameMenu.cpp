@@ -2,6 +2,8 @@
 
 #include <optional>
 
+#include <QAccessible>
+#include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -105,12 +107,23 @@ class MenuBuilder {
     if (row.shortcut != nullptr) action->setShortcut(QKeySequence(row.shortcut));
     if (row.entry) entries_[static_cast<std::size_t>(*row.entry)] = action;
     QObject::connect(action, &QAction::triggered, &window_, [&window = window_, action, row] {
-      if (window.PlayerMayAct()) {
-        (window.*row.handler)();
-      } else if (action->isCheckable()) {
-        action->toggle();  // back: the toolkit has toggled it already
+      const auto choose = [&window, action, row] { Choose(window, *action, row.handler); };
+      if (!QAccessible::isActive()) {
+        choose();
+      } else {
+        // A screen reader that chose the entry waits for an answer, and not until a dialog closes.
+        QMetaObject::invokeMethod(&window, choose, Qt::QueuedConnection);
       }
     });
+  }
+
+  // Dialogs keep mouse and keys away, but not a screen reader.
+  static void Choose(frmGame& window, QAction& action, Handler handler) {
+    if (window.PlayerMayAct() && QApplication::activeModalWidget() == nullptr) {
+      (window.*handler)();
+    } else if (action.isCheckable()) {
+      action.toggle();  // back: the toolkit has toggled it already
+    }
   }
 
   frmGame& window_;
