@@ -1,4 +1,5 @@
 #include <QCheckBox>
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QRadioButton>
 #include <QTest>
@@ -195,6 +196,28 @@ TEST_F(PreferencesWindow, ChoosesImages) {
     EXPECT_EQ(InMemory().DarkImage, picture);
     EXPECT_EQ(ColorOf(window, "picDark"), QColor(Qt::red));
     EXPECT_EQ(InMemory().PreferencesPreviousDirectory, globals.ProgramDirectory);
+  });
+}
+
+TEST_F(PreferencesWindow, LooksForImagesOfEveryReadableKindWhereTheLastOneWas) {
+  Open();
+  ASSERT_TRUE(QDir(globals.ProgramDirectory).mkdir("mine"));
+  globals.settings.PreferencesPreviousDirectory = ProgramFile("mine/");
+  InPreferences([this](frmPreferences& window) {
+    WhenNextModalOpens([this](QWidget& modal) {
+      auto& dialog = dynamic_cast<QFileDialog&>(modal);
+      EXPECT_EQ(dialog.directory().path(), ProgramFile("mine"));
+      EXPECT_TRUE(dialog.selectedFiles().isEmpty());
+      EXPECT_EQ(dialog.nameFilters(),
+                (QStringList{"All Readable Images (*.bmp *.dib *.rle *.jpg *.jpeg *.gif *.ico "
+                             "*.cur)",
+                             "Web Images (*.jpg;*.jpeg;*.gif) (*.jpg *.jpeg *.gif)",
+                             "Icons (*.ico;*.cur) (*.ico *.cur)",
+                             "Windows Images (*.bmp;*.dib;*.rle) (*.bmp *.dib *.rle)",
+                             "All Files (*.*) (*)"}));
+      dialog.close();
+    });
+    Click(window, "cmdLight");
   });
 }
 
