@@ -68,6 +68,7 @@ frmAbout::frmAbout(const Globals& globals, bool manyColors, QWidget* mainWindow)
   auto* cmdOK = new QPushButton("OK", this);
   cmdOK->setObjectName("cmdOK");
   cmdOK->setDefault(true);
+  cmdOK->setFocus();
   connect(cmdOK, &QPushButton::clicked, this, &frmAbout::cmdOK_Click);
   tmrAnimation_.setObjectName("tmrAnimation");
   tmrAnimation_.setInterval(DrawIntervalMilliseconds);

@@ -10,11 +10,11 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScopedValueRollback>
-#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTimer>
 
 #include "storage/NumberParser.h"
+#include "ui/support/ScrollBar.h"
 
 namespace {
 
@@ -107,11 +107,10 @@ QGroupBox* frmReplay::AddAdvanceFrame() {
   optAdvance_[Manual] = AddOption(frame, "optAdvance(1)", "&Manual");
   lblSpeedSeek_ = AddLabel(frame, "lblSpeedSeek", "Speed:");
   lblSpeedSeekValue_ = AddValueLabel(frame, "lblSpeedSeekValue", "0.1 sec.");
-  hsclSpeedSeekSet_ = new QScrollBar(Qt::Horizontal, frame);
+  hsclSpeedSeekSet_ = new ScrollBar(frame);
   hsclSpeedSeekSet_->setObjectName("hsclSpeedSeekSet");
-  hsclSpeedSeekSet_->setFocusPolicy(Qt::StrongFocus);
   hsclSpeedSeekSet_->setRange(1, SquareCount);
-  connect(hsclSpeedSeekSet_, &QScrollBar::valueChanged, this, &frmReplay::hsclSpeedSeekSet_Change);
+  connect(hsclSpeedSeekSet_, &ScrollBar::valueChanged, this, &frmReplay::hsclSpeedSeekSet_Change);
   auto* layout = new QGridLayout(frame);
   layout->addWidget(optAdvance_[Automatic], 0, 0, 1, 2);
   layout->addWidget(optAdvance_[Manual], 1, 0, 1, 2);

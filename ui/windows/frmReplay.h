@@ -8,8 +8,8 @@ class QGroupBox;
 class QLabel;
 class QPushButton;
 class QRadioButton;
-class QScrollBar;
 class QTimer;
+class ScrollBar;
 
 // Plays the live game again from its first square, by a timer or step by step. One bar serves two
 // uses: the speed of the automatic replay, and the move sought in the manual one; while it seeks,
@@ -77,7 +77,7 @@ class frmReplay : public QDialog {
   QLabel* lblMoveValue_ = nullptr;
   QLabel* lblPositionValue_ = nullptr;
   QRadioButton* optAdvance_[2] = {};
-  QScrollBar* hsclSpeedSeekSet_ = nullptr;
+  ScrollBar* hsclSpeedSeekSet_ = nullptr;
   QLabel* lblSpeedSeek_ = nullptr;
   QLabel* lblSpeedSeekValue_ = nullptr;
   QPushButton* cmdRestart_ = nullptr;

@@ -7,9 +7,9 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QScrollBar>
 
 #include "core/NumberText.h"
+#include "ui/support/ScrollBar.h"
 
 namespace {
 
@@ -72,16 +72,15 @@ QGroupBox* frmSolve::AddKnightFrame() {
 
 QGroupBox* frmSolve::AddRefreshFrame() {
   QGroupBox* frame = NewFrame(this, "fraRefresh", " Refresh:");
-  hsclRefreshRateValue_ = new QScrollBar(Qt::Horizontal, frame);
+  hsclRefreshRateValue_ = new ScrollBar(frame);
   hsclRefreshRateValue_->setObjectName("hsclRefreshRateValue");
   hsclRefreshRateValue_->setAccessibleName("Refresh");
-  hsclRefreshRateValue_->setFocusPolicy(Qt::StrongFocus);
   hsclRefreshRateValue_->setRange(1, SlowestRefresh);
   hsclRefreshRateValue_->setSingleStep(RefreshSmallStep);
   hsclRefreshRateValue_->setPageStep(RefreshLargeStep);
   hsclRefreshRateValue_->setValue(context_.globals.settings.SolveRefreshRate);
   lblRefreshRate_ = AddValueLabel(frame, "lblRefreshRate", "Every 32000 Moves");
-  connect(hsclRefreshRateValue_, &QScrollBar::valueChanged, this,
+  connect(hsclRefreshRateValue_, &ScrollBar::valueChanged, this,
           &frmSolve::hsclRefreshRateValue_Change);
   hsclRefreshRateValue_Change();
   auto* layout = new QVBoxLayout(frame);

@@ -11,7 +11,7 @@ class QGridLayout;
 class QGroupBox;
 class QLabel;
 class QPushButton;
-class QScrollBar;
+class ScrollBar;
 
 // Starts and stops the search for a tour on the live game, shows how it goes, and takes back the
 // moves that it added.
@@ -55,7 +55,7 @@ class frmSolve : public QDialog, private SolveProgress {
   QLabel* lblTestedValue_ = nullptr;
   QLabel* lblMoveValue_ = nullptr;
   QLabel* lblPositionValue_ = nullptr;
-  QScrollBar* hsclRefreshRateValue_ = nullptr;
+  ScrollBar* hsclRefreshRateValue_ = nullptr;
   QLabel* lblRefreshRate_ = nullptr;
   QPushButton* cmdStartStop_ = nullptr;
   QPushButton* cmdBacktrack_ = nullptr;

@@ -45,6 +45,7 @@ frmWin::frmWin(bool manyColors, QWidget* mainWindow)
   auto* cmdOK = new QPushButton("OK", this);
   cmdOK->setObjectName("cmdOK");
   cmdOK->setDefault(true);
+  cmdOK->setFocus();
   connect(cmdOK, &QPushButton::clicked, this, &frmWin::cmdOK_Click);
 
   auto* layout = new QVBoxLayout(this);
