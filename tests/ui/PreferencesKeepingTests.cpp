@@ -211,7 +211,7 @@ TEST_F(PreferencesKeeping, KeepsChosenColorsInMemoryOnCancelUntilTheNextStart) {
 TEST_F(PreferencesKeeping, RestoresTheDefaultsInTheDialogToo) {
   Open(
       "[Chessboard]\nUse Images=0\nLight Color=255\nCorner Distance=600\n"
-      "[Position]\nStarting Position=2\nStarting X=4\n[Highlight]\nHighlighting Method=0\n");
+      "[Position]\nStarting Position=1\nStarting X=4\n[Highlight]\nHighlighting Method=0\n");
   InPreferences([this](frmPreferences& window) {
     Answer("Gallopade Nova", "Are you sure you want to restore the default configuration?",
            QMessageBox::Yes);

@@ -11,6 +11,7 @@
 #include "core/Game.h"
 #include "ui/commands/CommandContext.h"
 #include "ui/commands/MainWindow.h"
+#include "ui/support/ButtonLetters.h"
 #include "ui/support/HalfSecondTimer.h"
 #include "ui/support/HelpKey.h"
 #include "ui/support/QtDialogs.h"
@@ -125,6 +126,7 @@ class frmGame : public QMainWindow, public MainWindow {
   CommandContext context_;
   std::unique_ptr<frmHelp> help_;  // made on first use
   HelpKey helpKey_;
+  ButtonLetters buttonLetters_;
   int works_ = 0;
   bool closeRequested_ = false;
   bool resizePending_ = false;
