@@ -25,7 +25,7 @@ void Desk::Open(const QString& settings, const QString& commandLine) {
   }
   window_ = std::make_unique<frmGame>(globals);
   window_->Form_Load(commandLine);
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(window_.get()));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
 }
 
 bool Desk::Close() {
