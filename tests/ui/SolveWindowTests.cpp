@@ -220,12 +220,23 @@ TEST_F(SolveWindow, SearchesAgainAfterAStop) {
   EXPECT_EQ(Values(), "50/69/D1");
 }
 
-TEST_F(SolveWindow, HasSolvedTheGameEvenIfStopIsPressedInTheSameMoment) {
+TEST_F(SolveWindow, KeepsTheTourQuietlyWhenStopIsPressedInTheMomentItIsFound) {
   Open(Positions::Solvable, 1);
   WhenTheTourIsFound([this] { Press("cmdStartStop"); });
   Press("cmdStartStop");
-  EXPECT_EQ(Buttons(), "(&Start) &Backtrack");
+  EXPECT_EQ(Buttons(), "&Start &Backtrack");
   EXPECT_EQ(MovesMade(state), SquaresNamed(Positions::TourOfSolvable));
+  EXPECT_EQ(std::ranges::count_if(
+                TakeLog(), [](const std::string& line) { return line.starts_with("tell "); }),
+            0);
+}
+
+TEST_F(SolveWindow, TellsOfTheTourWhenStartIsPressedAfterAStopInTheMomentItWasFound) {
+  Open(Positions::Solvable, 1);
+  WhenTheTourIsFound([this] { Press("cmdStartStop"); });
+  Press("cmdStartStop");
+  Press("cmdStartStop");
+  EXPECT_EQ(Buttons(), "(&Start) &Backtrack");
   EXPECT_EQ(TakeLog().back(), "tell Solved Successfully|The game has been solved!|information");
 }
 
@@ -316,7 +327,7 @@ TEST_F(SolveWindow, ClosesOnceWhenItIsClosedAgainMeanwhile) {
   EXPECT_EQ(MovesMade(state), SquaresNamed(Positions::Unsolvable));
 }
 
-TEST_F(SolveWindow, TellsOfTheTourAndAsksWhenItIsClosedInTheMomentItIsFound) {
+TEST_F(SolveWindow, AsksWhetherToBacktrackWhenItIsClosedInTheMomentTheTourIsFound) {
   Open(Positions::Solvable, 1);
   solve->show();
   WhenTheTourIsFound([this] { Press("cmdClose"); });

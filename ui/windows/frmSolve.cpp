@@ -172,20 +172,20 @@ bool frmSolve::FindTour() {
 }
 
 void frmSolve::EndSearch(bool solved) {
-  // A Stop that comes too late changes nothing: the search has given its answer.
-  const bool stopped = solver_.StopSolving && !solved;
+  // Asked before the events run: a Stop in these comes too late, the search has given its answer.
+  const bool stopped = solver_.StopSolving;
   context_.window.RestoreColors(-1, -1);
   context_.game.DoCaption();
   context_.window.DoEvents();
   ShowProgress();
-  if (solved) {
+  if (stopped) {
+    cmdBacktrack_->setEnabled(solveStartMove_ < context_.state.MoveCount);
+  } else if (solved) {
     context_.window.EnableClock(false);
     context_.window.Tell("Solved Successfully", "The game has been solved!",
                          MessageIcon::Information);
     cmdStartStop_->setEnabled(false);
     cmdBacktrack_->setEnabled(true);
-  } else if (stopped) {
-    cmdBacktrack_->setEnabled(solveStartMove_ < context_.state.MoveCount);
   } else {
     context_.window.Tell("No Solution",
                          "At the current position, there is no solution to this game.\n"
