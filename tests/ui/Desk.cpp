@@ -25,6 +25,7 @@ void Desk::Open(const QString& settings, const QString& commandLine) {
   }
   window_ = std::make_unique<frmGame>(globals);
   window_->Form_Load(commandLine);
+  window_->activateWindow();  // a dialog at start-up had taken its place
   ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
 }
 

@@ -119,11 +119,9 @@ class MenuBuilder {
 
   // Dialogs keep mouse and keys away, but not a screen reader.
   static void Choose(frmGame& window, QAction& action, Handler handler) {
-    if (window.PlayerMayAct() && QApplication::activeModalWidget() == nullptr) {
-      (window.*handler)();
-    } else if (action.isCheckable()) {
-      action.toggle();  // back: the toolkit has toggled it already
-    }
+    const bool reachable = QApplication::activeModalWidget() == nullptr;
+    const bool done = reachable && window.Perform([&] { (window.*handler)(); });
+    if (!done && action.isCheckable()) action.toggle();  // back: the toolkit has toggled it already
   }
 
   frmGame& window_;

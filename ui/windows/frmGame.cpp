@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QScopedValueRollback>
 #include <QTimer>
 
 #include "ui/board/BoardView.h"
@@ -37,6 +38,13 @@ frmGame::~frmGame() = default;
 void frmGame::Form_Load(const QString& commandLine) {
   game_.Form_Load(commandLine.toStdString());
   ShowWindow();
+}
+
+bool frmGame::Perform(const std::function<void()>& deed) {
+  if (!PlayerMayAct()) return false;
+  const QScopedValueRollback performing(performing_, true);
+  deed();
+  return true;
 }
 
 void frmGame::GetHelp(const QString& helpTopic) {
@@ -111,7 +119,7 @@ void frmGame::EndWork() {
 // In the normal way, but only when nothing else is going on above the event loop.
 void frmGame::CloseAsRequested() {
   QTimer::singleShot(CloseRetryMilliseconds, this, [this] {
-    if (works_ > 0 || QApplication::activeModalWidget() != nullptr) {
+    if (!PlayerMayAct() || QApplication::activeModalWidget() != nullptr) {
       CloseAsRequested();
     } else {
       close();
@@ -120,8 +128,8 @@ void frmGame::CloseAsRequested() {
 }
 
 void frmGame::closeEvent(QCloseEvent* event) {
-  closeRequested_ = !PlayerMayAct();
-  event->setAccepted(PlayerMayAct() && game_.Form_Unload());
+  closeRequested_ = works_ > 0;
+  event->setAccepted(!closeRequested_ && game_.Form_Unload());
 }
 
 void frmGame::LoadGameSetup() {
@@ -142,9 +150,11 @@ void frmGame::LoadGameSetup() {
 }
 
 void frmGame::OpenGameFile(const std::string& fileName) {
-  LoadGame(
-      context_,
-      {.Replaying = false, .NoCdlog = true, .NoCdlogFilename = QString::fromStdString(fileName)});
+  Perform([&] {
+    LoadGame(
+        context_,
+        {.Replaying = false, .NoCdlog = true, .NoCdlogFilename = QString::fromStdString(fileName)});
+  });
 }
 
 void frmGame::SaveSettings() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -34,8 +35,11 @@ class frmGame : public QMainWindow, public MainWindow {
   // Start-up; shows the window.
   void Form_Load(const QString& commandLine);
 
-  // False while work is going on that the player must not disturb.
-  bool PlayerMayAct() const { return works_ == 0; }
+  // False while work is going on that the player must not disturb, or something that he has chosen
+  // is not over: a dialog that has just closed is yet to be acted on.
+  bool PlayerMayAct() const { return works_ == 0 && !performing_; }
+  // Does what the player asks for; false, and nothing done, when he may not act.
+  bool Perform(const std::function<void()>& deed);
   const CommandContext& Context() const { return context_; }
   const GameState& State() const { return state_; }
   BoardView& Board() { return *board_; }
@@ -108,6 +112,7 @@ class frmGame : public QMainWindow, public MainWindow {
  private:
   void ConnectBoard();
   void CloseAsRequested();
+  bool IsClockResting() const;
   bool IsNormal() const;
   QRect NormalBounds() const;
   bool SnapToMinimumHeight();
@@ -128,6 +133,7 @@ class frmGame : public QMainWindow, public MainWindow {
   HelpKey helpKey_;
   ButtonLetters buttonLetters_;
   int works_ = 0;
+  bool performing_ = false;
   bool closeRequested_ = false;
   bool resizePending_ = false;
   QRect placedBounds_;  // where the window was put before it was shown

@@ -36,15 +36,12 @@ void frmGame::CreateBoard() {
 }
 
 void frmGame::ConnectBoard() {
-  connect(board_, &BoardView::SquareClicked, this, [this](int index) {
-    if (PlayerMayAct()) game_.pctGrid_Click(index);
-  });
-  connect(board_, &BoardView::SquareEntered, this, [this](int index) {
-    if (PlayerMayAct()) game_.pctGrid_MouseMove(index, 0);
-  });
-  connect(board_, &BoardView::KeyPressed, this, [this](int keyCode) {
-    if (PlayerMayAct()) game_.pctGrid_KeyDown(keyCode);
-  });
+  connect(board_, &BoardView::SquareClicked, this,
+          [this](int index) { Perform([this, index] { game_.pctGrid_Click(index); }); });
+  connect(board_, &BoardView::SquareEntered, this,
+          [this](int index) { Perform([this, index] { game_.pctGrid_MouseMove(index, 0); }); });
+  connect(board_, &BoardView::KeyPressed, this,
+          [this](int keyCode) { Perform([this, keyCode] { game_.pctGrid_KeyDown(keyCode); }); });
   connect(board_, &BoardView::Resized, this, [this] { Form_Resize(); });
 }
 
@@ -105,12 +102,17 @@ void frmGame::moveEvent(QMoveEvent* event) {
 void frmGame::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange) {
-    game_.ClockOnResize(isMinimized(), QApplication::activeModalWidget() != nullptr);
+    game_.ClockOnResize(isMinimized(), IsClockResting());
   }
 }
 
+// Also between the closing of a dialog and what follows from it.
+bool frmGame::IsClockResting() const {
+  return performing_ || QApplication::activeModalWidget() != nullptr;
+}
+
 void frmGame::Form_Resize() {
-  game_.ClockOnResize(isMinimized(), QApplication::activeModalWidget() != nullptr);
+  game_.ClockOnResize(isMinimized(), IsClockResting());
   resizePending_ = state_.ApplyingMoves;
   if (isMinimized() || resizePending_ || SnapToMinimumHeight()) return;
   board_->LayOut(globals_.settings);
