@@ -11,6 +11,7 @@ namespace {
 
 constexpr int IconSide = 48;
 constexpr int Margin = 18;
+constexpr int ButtonPadding = 16;
 constexpr int ButtonGap = 8;
 constexpr int MessageWidth = 240;
 
@@ -45,8 +46,10 @@ frmGameOver::frmGameOver(const GameOverReport& report, QWidget* mainWindow)
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(ButtonGap);
   buttons->addStretch();
-  buttons->addWidget(cmdScoresReplay);
-  buttons->addWidget(cmdUndo);
+  for (QPushButton* button : {cmdScoresReplay, cmdUndo}) {
+    button->setMinimumWidth(button->sizeHint().width() + ButtonPadding);
+    buttons->addWidget(button);
+  }
   auto* layout = new QGridLayout(this);
   layout->setSizeConstraint(QLayout::SetFixedSize);
   layout->setContentsMargins(Margin, Margin, Margin, Margin);

@@ -23,7 +23,8 @@ const QString FirstPage = "welcome.html";
 
 QSize DesignedSize(const QWidget& window) {
   const QFontMetrics metrics = window.fontMetrics();
-  const QSize wanted(metrics.averageCharWidth() * 150, metrics.height() * 42);
+  // Not in average letters, which are twice as wide in a Japanese font.
+  const QSize wanted(metrics.height() * 60, metrics.height() * 42);
   return wanted.boundedTo(window.screen()->availableSize() * 9 / 10);
 }
 

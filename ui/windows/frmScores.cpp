@@ -26,6 +26,7 @@ constexpr QSize PictureSize(520, 390);
 constexpr int FrameWidth = 40;
 constexpr int CornerShare = 16;
 constexpr int ButtonMargin = 10;
+constexpr int ButtonPadding = 16;
 constexpr int ButtonGap = 8;
 // The box is wider than its text, and begins a little before the name under it.
 constexpr int BoxMargin = 18;
@@ -125,6 +126,7 @@ QPushButton* frmScores::AddButton(const char* name, const char* caption,
   auto* button = new QPushButton(caption, this);
   button->setObjectName(name);
   button->setAutoDefault(false);
+  button->setMinimumWidth(button->sizeHint().width() + ButtonPadding);
   connect(button, &QPushButton::clicked, this, handler);
   return button;
 }
