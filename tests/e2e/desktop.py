@@ -121,6 +121,10 @@ class Desktop:
     def focus(self, window):
         self.run("xdotool", "windowfocus", "--sync", window)
 
+    def focused(self):
+        """The number of the window that has the keyboard."""
+        return self.run("xdotool", "getwindowfocus").strip()
+
     def press(self, *keys):
         self.run("xdotool", "key", *keys)
 

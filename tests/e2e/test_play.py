@@ -88,6 +88,17 @@ class Play(unittest.TestCase):
         first = self.desktop.geometry(self.game)
         return first if first == self.desktop.geometry(self.game) else None
 
+    def test_the_keyboard_comes_back_when_two_dialogs_close_at_once(self):
+        self.start()
+        self.play()
+        for _ in range(10):
+            self.desktop.press("ctrl+r")
+            self.desktop.focus(self.desktop.window("^Replay$"))
+            self.desktop.press("alt+c")
+            self.desktop.window("^End Replay$")
+            self.desktop.press("alt+y")
+            wait_for(lambda: self.desktop.focused() == self.game, "the keyboard in the game")
+
     def test_no_at_the_exit_question_keeps_the_game(self):
         self.start()
         self.play()

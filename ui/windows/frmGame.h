@@ -13,6 +13,7 @@
 #include "ui/commands/CommandContext.h"
 #include "ui/commands/MainWindow.h"
 #include "ui/support/ButtonLetters.h"
+#include "ui/support/FocusReturn.h"
 #include "ui/support/HalfSecondTimer.h"
 #include "ui/support/HelpKey.h"
 #include "ui/support/QtDialogs.h"
@@ -132,6 +133,7 @@ class frmGame : public QMainWindow, public MainWindow {
   std::unique_ptr<frmHelp> help_;  // made on first use
   HelpKey helpKey_;
   ButtonLetters buttonLetters_;
+  FocusReturn focusReturn_;
   int works_ = 0;
   bool performing_ = false;
   bool closeRequested_ = false;
