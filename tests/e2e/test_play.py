@@ -76,8 +76,10 @@ class Play(unittest.TestCase):
 
     def test_the_window_stays_where_it_was(self):
         self.start()
+        before = wait_for(self.settled_geometry, "the window")
         self.desktop.run("xdotool", "windowmove", "--sync", self.game, "137", "93")
-        place = wait_for(lambda: self.settled_geometry(), "the moved window")
+        wait_for(lambda: self.desktop.geometry(self.game) != before, "the window to move")
+        place = wait_for(self.settled_geometry, "the moved window")
         for _ in range(10):
             self.desktop.close(self.game)
             wait_for(self.ended, "the program to end")

@@ -1,20 +1,22 @@
 #include "ui/support/FocusReturn.h"
 
-#include <QCoreApplication>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QWindow>
 
 namespace {
 
 void Activate(QWindow& window) {
-  const bool isShown = window.isVisible() && !(window.windowStates() & Qt::WindowMinimized);
-  if (isShown) window.requestActivate();
+  const QWindow* modal = QGuiApplication::modalWindow();
+  const bool isBlockedAgain = modal != nullptr && modal != &window;
+  const bool isMinimized = window.windowStates().testFlag(Qt::WindowMinimized);
+  if (window.isVisible() && !isMinimized && !isBlockedAgain) window.requestActivate();
 }
 
 }  // namespace
 
 FocusReturn::FocusReturn() {
-  QCoreApplication::instance()->installEventFilter(this);
+  qGuiApp->installEventFilter(this);
 }
 
 // Later, when the dialog has been taken off the screen.
