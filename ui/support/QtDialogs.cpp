@@ -12,6 +12,8 @@
 #include <QMessageBox>
 #include <QScreen>
 
+#include "ui/support/FileIcons.h"
+
 namespace {
 
 // Room beside the text for the icon and the box's own margins.
@@ -33,14 +35,18 @@ QWidget* QtDialogs::Parent() const {
 }
 
 QString QtDialogs::OpenFile(const FileQuestion& question) {
+  FileIcons icons;
   QFileDialog dialog(Parent(), QString(), question.directory, ToolkitNameFilters(question.filter));
+  dialog.setIconProvider(&icons);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setFileMode(QFileDialog::ExistingFile);
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 QString QtDialogs::SaveFile(const FileQuestion& question) {
+  FileIcons icons;
   QFileDialog dialog(Parent(), QString(), question.directory, ToolkitNameFilters(question.filter));
+  dialog.setIconProvider(&icons);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
