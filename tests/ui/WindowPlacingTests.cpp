@@ -15,6 +15,31 @@ QRect BoundsOfDialog(const PairPosition& pair) {
 
 }  // namespace
 
+TEST(OnTheMainWindow, ADialogLiesInTheMiddle) {
+  EXPECT_EQ(CentredPosition(Dialog, {100, 50, 640, 660}, Screen), QPoint(320, 230));
+}
+
+TEST(OnTheMainWindow, ADialogStaysAboveTheScreensBottomAndLeftOfItsRightEdge) {
+  EXPECT_EQ(CentredPosition(Dialog, {700, 500, 640, 660}, Screen), QPoint(800, 500));
+}
+
+TEST(OnTheMainWindow, ADialogNeverBeginsLeftOfTheDesktopOrAboveIt) {
+  EXPECT_EQ(CentredPosition(Dialog, {-500, -600, 640, 660}, Screen), QPoint(0, 0));
+  EXPECT_EQ(CentredPosition({1200, 900}, {100, 50, 640, 660}, Screen), QPoint(0, 0));
+}
+
+TEST(OnTheMainWindow, TheFrameOfADialogCounts) {
+  QMainWindow mainWindow;
+  mainWindow.setGeometry(100, 20, 640, 660);
+  mainWindow.show();
+  ASSERT_NE(mainWindow.frameGeometry(), mainWindow.geometry());
+  QDialog dialog;
+  dialog.setFixedSize(Dialog);
+  PlaceDialog(dialog, mainWindow);
+  dialog.show();
+  EXPECT_EQ(dialog.geometry().center(), mainWindow.geometry().center());
+}
+
 TEST(BesideTheMainWindow, IsToTheRightWhereThereIsRoom) {
   const QRect mainWindow(100, 50, 640, 660);
   const PairPosition pair = PositionsSideBySide(Dialog, mainWindow, Screen);

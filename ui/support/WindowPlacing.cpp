@@ -20,6 +20,11 @@ QPoint Within(const QRect& bounds, const QRect& screen) {
           Within(bounds.top(), bounds.height(), screen.top(), screen.bottom() + 1)};
 }
 
+// A dialog gets its own frame only when it is shown; it will be about as thick as this one.
+QSize FrameSize(const QWidget& dialog, const QWidget& mainWindow) {
+  return dialog.size() + mainWindow.frameGeometry().size() - mainWindow.size();
+}
+
 }  // namespace
 
 QPoint CentredPosition(const QSize& dialog, const QRect& mainWindow, const QRect& screen) {
@@ -32,7 +37,7 @@ QPoint CentredPosition(const QSize& dialog, const QRect& mainWindow, const QRect
 
 void PlaceDialog(QWidget& dialog, const QWidget& mainWindow) {
   dialog.adjustSize();
-  dialog.move(CentredPosition(dialog.size(), mainWindow.frameGeometry(),
+  dialog.move(CentredPosition(FrameSize(dialog, mainWindow), mainWindow.frameGeometry(),
                               mainWindow.screen()->availableGeometry()));
 }
 
@@ -54,10 +59,8 @@ PairPosition PositionsSideBySide(const QSize& dialog, const QRect& mainWindow,
 std::optional<QPoint> PlaceBeside(QWidget& dialog, QWidget& mainWindow) {
   dialog.adjustSize();
   const QRect frame = mainWindow.frameGeometry();
-  // The dialog gets its own frame only when it is shown; it will be about as thick.
-  const QSize frameSize = dialog.size() + frame.size() - mainWindow.size();
-  const PairPosition pair =
-      PositionsSideBySide(frameSize, frame, mainWindow.screen()->availableGeometry());
+  const PairPosition pair = PositionsSideBySide(FrameSize(dialog, mainWindow), frame,
+                                                mainWindow.screen()->availableGeometry());
   dialog.move(pair.dialog);
   if (mainWindow.isMaximized() || mainWindow.isFullScreen() || pair.mainWindow == frame.topLeft()) {
     return std::nullopt;

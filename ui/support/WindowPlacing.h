@@ -9,7 +9,8 @@ class QWidget;
 // Centres a dialog on the main window and keeps it on the screen.
 void PlaceDialog(QWidget& dialog, const QWidget& mainWindow);
 
-// The arithmetic of PlaceDialog: the dialog's top left corner, all in pixels of the desktop.
+// The arithmetic of PlaceDialog: the dialog's top left corner, all with their frames and in pixels
+// of the desktop.
 QPoint CentredPosition(const QSize& dialog, const QRect& mainWindow, const QRect& screen);
 
 // Places a dialog beside the main window, which moves aside where the screen has no room for both.
