@@ -1,5 +1,6 @@
 #include <QMenu>
 #include <QMenuBar>
+#include <QTest>
 
 #include "tests/ui/Desk.h"
 
@@ -26,6 +27,13 @@ std::vector<Row> RowsOf(const QMenu& menu) {
     rows.push_back({name, action->text(), action->shortcut().toString()});
   }
   return rows;
+}
+
+// Opens it as its letter with Alt does.
+QMenu& OpenMenu(frmGame& window, Qt::Key letter, const char* name) {
+  QTest::keyPress(window.windowHandle(), Qt::Key_Alt);
+  QTest::keyClick(window.windowHandle(), letter, Qt::AltModifier);
+  return Child<QMenu>(window, name);
 }
 
 Row Separator(int number) {
@@ -121,4 +129,20 @@ TEST_F(Menu, TogglesAViewOptionOnceForAChoice) {
   Choose("mnuViewScore");
   EXPECT_FALSE(MenuItem("mnuViewScore").isChecked());
   EXPECT_EQ(Window().windowTitle(), "Gallopade Nova");
+}
+
+TEST_F(Menu, StaysOpenWhenTheAltThatOpenedItComesLate) {
+  Open();
+  QMenu& menu = OpenMenu(Window(), Qt::Key_E, "mnuEdit");
+  ASSERT_TRUE(menu.isVisible());
+  QKeyEvent late(QEvent::KeyPress, Qt::Key_Alt, Qt::AltModifier);
+  QCoreApplication::sendEvent(&menu, &late);
+  EXPECT_TRUE(menu.isVisible());
+}
+
+TEST_F(Menu, ClosesOnAnAltThatIsPressedInIt) {
+  Open();
+  QMenu& menu = OpenMenu(Window(), Qt::Key_E, "mnuEdit");
+  QTest::keyClick(Window().windowHandle(), Qt::Key_Alt);
+  EXPECT_FALSE(menu.isVisible());
 }

@@ -16,6 +16,7 @@
 #include "ui/support/FocusReturn.h"
 #include "ui/support/HalfSecondTimer.h"
 #include "ui/support/HelpKey.h"
+#include "ui/support/LateAltKey.h"
 #include "ui/support/QtDialogs.h"
 #include "ui/windows/GameMenu.h"
 #include "ui/windows/ScreenWindows.h"
@@ -134,6 +135,7 @@ class frmGame : public QMainWindow, public MainWindow {
   HelpKey helpKey_;
   ButtonLetters buttonLetters_;
   FocusReturn focusReturn_;
+  LateAltKey lateAltKey_;
   int works_ = 0;
   bool performing_ = false;
   bool closeRequested_ = false;
