@@ -4,38 +4,48 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
+
+#include "storage/SavingFile.h"
 
 namespace {
 
-std::optional<ProgramError> WhyNotWritable(const QString& pathName) {
-  if (pathName.isEmpty() || pathName.contains(QChar::Null)) return ProgramError::BadFileName;
-  const QFileInfo file(pathName);
+constexpr int LongestChainOfLinks = 40;
+
+std::optional<ProgramError> WhyNotWritable(const QString& fileName) {
+  if (fileName.isEmpty() || fileName.contains(QChar::Null)) return ProgramError::BadFileName;
+  const QFileInfo file(fileName);
   if (!file.dir().exists()) return ProgramError::PathNotFound;
+  if (file.isSymLink()) return ProgramError::PathFileAccess;
   if (!file.exists()) return std::nullopt;
   if (!file.isFile()) return ProgramError::PathFileAccess;
   if (!file.isWritable()) return ProgramError::PermissionDenied;
   return std::nullopt;
 }
 
-// commit() alone reports success and leaves an empty file when a small text met a full disk: the
-// failure of the last buffer's flush is lost on it.
-bool WriteWhole(QSaveFile& file, const QByteArray& bytes) {
-  return file.write(bytes) == bytes.size() && file.flush() && file.error() == QFileDevice::NoError;
-}
-
 }  // namespace
 
-std::optional<ProgramError> WriteFile(const QString& pathName, const QByteArray& bytes) {
-  if (const auto error = WhyNotWritable(pathName)) return error;
-  QSaveFile file(pathName);
-  errno = 0;
-  if (!file.open(QIODevice::WriteOnly)) return ErrorFromSystem(errno, ProgramError::PathNotFound);
-  if (!WriteWhole(file, bytes)) {
-    const int systemError = errno;
-    file.cancelWriting();
-    return ErrorFromSystem(systemError, ProgramError::PathNotFound);
+QString FileBehindLinks(const QString& pathName) {
+  if (pathName.contains(QChar::Null)) return pathName;
+  QFileInfo file(pathName);
+  for (int links = 0; links < LongestChainOfLinks && file.isSymLink(); ++links) {
+    file.setFile(file.symLinkTarget());
   }
-  if (!file.commit()) return ErrorFromSystem(errno, ProgramError::PathNotFound);
-  return std::nullopt;
+  return file.filePath();
+}
+
+std::optional<ProgramError> ReplaceFile(const FolderLock& lock, const QString& fileName,
+                                        const QByteArray& bytes) {
+  if (const auto error = WhyNotWritable(fileName)) return error;
+  const QString folder = QFileInfo(fileName).path();
+  if (lock.IsHeld()) RemoveLeftSavingFiles(folder);
+  SavingFile file(folder);
+  if (file.IsOpen() && file.Write(bytes) && file.TakePlaceOf(fileName)) return std::nullopt;
+  return ErrorFromSystem(errno, ProgramError::PathNotFound);
+}
+
+std::optional<ProgramError> WriteFile(const QString& pathName, const QByteArray& bytes) {
+  const QString fileName = FileBehindLinks(pathName);
+  FolderLock lock(QFileInfo(fileName).path());
+  lock.Take();
+  return ReplaceFile(lock, fileName, bytes);
 }

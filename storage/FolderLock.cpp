@@ -32,5 +32,6 @@ bool FolderLock::Take() {
     if (std::chrono::steady_clock::now() > end) return false;
     std::this_thread::sleep_for(Pause);
   }
+  isHeld_ = true;
   return true;
 }

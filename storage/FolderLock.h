@@ -15,7 +15,10 @@ class FolderLock {
   // Waits for a moment; false when another copy has the folder all the while. A folder that cannot
   // be locked at all is nobody's.
   bool Take();
+  // Whether the folder is really this copy's alone.
+  bool IsHeld() const { return isHeld_; }
 
  private:
   int descriptor_;
+  bool isHeld_ = false;
 };

@@ -3,20 +3,20 @@
 #include <QFileInfo>
 
 #include "storage/FileWriter.h"
-#include "storage/FolderLock.h"
 
 namespace {
 
 constexpr qsizetype LargestFile = qsizetype{1024} * 1024;
 
-std::optional<ProgramError> Replace(const QString& pathName, const IniChange& change) {
-  const FileContent content = ReadIniStore(pathName);
+std::optional<ProgramError> Replace(const FolderLock& lock, const QString& fileName,
+                                    const IniChange& change) {
+  const FileContent content = ReadIniStore(fileName);
   if (content.error && content.error != ProgramError::FileNotFound) return content.error;
   const std::vector<IniEntry> entries = change(content.bytes);
   if (entries.empty()) return std::nullopt;
   const QByteArray text = ReplaceIniValues(content.bytes, entries);
   if (text.size() > LargestFile) return ProgramError::Overflow;
-  return WriteFile(pathName, text);
+  return ReplaceFile(lock, fileName, text);
 }
 
 }  // namespace
@@ -28,7 +28,8 @@ FileContent ReadIniStore(const QString& pathName) {
 }
 
 std::optional<ProgramError> UpdateIniStore(const QString& pathName, const IniChange& change) {
-  FolderLock lock(QFileInfo(pathName).path());
+  const QString fileName = FileBehindLinks(pathName);
+  FolderLock lock(QFileInfo(fileName).path());
   if (!lock.Take()) return ProgramError::PermissionDenied;
-  return Replace(pathName, change);
+  return Replace(lock, fileName, change);
 }

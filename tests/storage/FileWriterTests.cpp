@@ -43,6 +43,28 @@ TEST_F(WritingAFile, LeavesNothingElseBehind) {
   EXPECT_EQ(Names(), QStringList{"x"});
 }
 
+TEST_F(WritingAFile, ClearsAwayWhatAKilledSaverLeft) {
+  Put(".gallopade-saving-1", "half");
+  EXPECT_EQ(WriteFile(PathOf("x"), "new"), std::nullopt);
+  EXPECT_EQ(Names(), QStringList{"x"});
+}
+
+TEST_F(WritingAFile, LeavesWhatAnotherCopyIsSaving) {
+  FolderLock other(Folder());
+  ASSERT_TRUE(other.Take());
+  Put(".gallopade-saving-1", "half");
+  EXPECT_EQ(WriteFile(PathOf("x"), "new"), std::nullopt);
+  EXPECT_EQ(ContentOf(PathOf("x")), "new");
+  EXPECT_EQ(ContentOf(PathOf(".gallopade-saving-1")), "half");
+}
+
+TEST_F(WritingAFile, LeavesThePlayersOwnFilesAlone) {
+  Put("x.backup", "mine");
+  Put(".hidden", "mine too");
+  EXPECT_EQ(WriteFile(PathOf("x"), "new"), std::nullopt);
+  EXPECT_EQ(Names(), QStringList({".hidden", "x", "x.backup"}));
+}
+
 TEST_F(WritingAFile, KeepsItsPermissions) {
   const QString path = Put("x", "old");
   SetMode(path, 0640);
@@ -79,6 +101,13 @@ TEST_F(WritingAFile, KeepsARelativeSymbolicLinkInAnotherFolder) {
   EXPECT_EQ(WriteFile(PathOf("link"), "new"), std::nullopt);
   EXPECT_TRUE(QFileInfo(PathOf("link")).isSymLink());
   EXPECT_EQ(ContentOf(PathOf("far/target")), "new");
+}
+
+TEST_F(WritingAFile, FailsForSymbolicLinksThatLeadNowhere) {
+  ASSERT_TRUE(QFile::link(PathOf("b"), PathOf("a")));
+  ASSERT_TRUE(QFile::link(PathOf("a"), PathOf("b")));
+  EXPECT_EQ(WriteFile(PathOf("a"), "new"), ProgramError::PathFileAccess);
+  EXPECT_TRUE(QFileInfo(PathOf("a")).isSymLink());
 }
 
 TEST_F(WritingAFile, FailsInAMissingFolder) {

@@ -73,7 +73,7 @@ class KilledWhileSaving : public FolderTest {
   std::mt19937 random_{1848};
 };
 
-TEST_F(KilledWhileSaving, LeavesTheOldFileOrTheNewOne) {
+TEST_F(KilledWhileSaving, LeavesTheOldFileOrTheNewOneAndNothingThatTheNextDoesNotClearAway) {
   const QByteArray one(100, '1');
   const QByteArray two(50000, '2');
   const QString path = Put("x", one);
@@ -85,6 +85,8 @@ TEST_F(KilledWhileSaving, LeavesTheOldFileOrTheNewOne) {
       [&] {
         const QByteArray content = ContentOf(path);
         EXPECT_TRUE(content == one || content == two) << content.size() << " bytes";
+        WriteFile(path, one);
+        EXPECT_EQ(Names(), QStringList{"x"});
       });
 }
 
