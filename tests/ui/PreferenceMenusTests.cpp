@@ -254,3 +254,20 @@ TEST_F(PreferenceMenusTest, OpenWithoutPressingTheButton) {
     EXPECT_FALSE(Child<QAbstractButton>(window, "cmdLight").isDown());
   });
 }
+
+TEST_F(PreferenceMenusTest, AreFoundByAScreenReaderWhileTheyAreOpen) {
+  Open();
+  InPreferences([this](frmPreferences& window) {
+    QAccessibleInterface& dialog = *QAccessible::queryAccessibleInterface(&window);
+    const int before = dialog.childCount();
+    WhenPopupOpens([&](QMenu& menu) {
+      ASSERT_EQ(dialog.childCount(), before + 1);
+      QAccessibleInterface* found = dialog.child(before);
+      EXPECT_EQ(found->object(), &menu);
+      EXPECT_EQ(found->text(QAccessible::Name), "Image Options");
+      EXPECT_EQ(dialog.indexOfChild(found), before);
+    });
+    RightClick(window, "cmdLight");
+    EXPECT_EQ(dialog.childCount(), before);
+  });
+}

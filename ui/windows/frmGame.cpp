@@ -9,6 +9,7 @@
 #include "ui/board/BoardView.h"
 #include "ui/commands/EndOfGame.h"
 #include "ui/commands/GameFiles.h"
+#include "ui/support/AccessibleDialog.h"
 #include "ui/support/DoEvents.h"
 #include "ui/support/Pictures.h"
 #include "ui/windows/frmHelp.h"
@@ -28,6 +29,7 @@ frmGame::frmGame(Globals& globals)
       windows_(*this),
       context_{game_, state_, *this, dialogs_, windows_, globals},
       helpKey_([this](const QString& topic) { GetHelp(topic); }) {
+  AccessibleDialog::Install();
   setObjectName("frmGame");
   board_ = new BoardView(state_, this);
   setCentralWidget(board_);

@@ -61,6 +61,7 @@ QPushButton* frmHistory::AddButton(const char* name, void (frmHistory::*handler)
 void frmHistory::AddOptions() {
   mnuEdit_ = new QMenu(this);
   mnuEdit_->setObjectName("mnuEdit");
+  mnuEdit_->setAccessibleName("Options");
   const auto add = [this](const char* name, const char* caption) {
     QAction* entry = mnuEdit_->addAction(caption);
     entry->setObjectName(name);

@@ -81,14 +81,15 @@ void ShowSamples(const QMenu& menu) {
 }  // namespace
 
 PreferenceMenus::PreferenceMenus(QWidget* parent)
-    : mnuSystemColors_(new QMenu("System Colors", parent)),
-      mnuImageOptions_(new QMenu("Image Options", parent)) {
+    : mnuSystemColors_(new QMenu(parent)), mnuImageOptions_(new QMenu(parent)) {
   mnuSystemColors_->setObjectName("mnuSystemColors");
+  mnuSystemColors_->setAccessibleName("System Colors");
   for (int index = 0; index < SystemColorCount; ++index) {
     AddEntry(*mnuSystemColors_, index, SystemColorNames[index]);
   }
   AddSharedEntries(*mnuSystemColors_);
   mnuImageOptions_->setObjectName("mnuImageOptions");
+  mnuImageOptions_->setAccessibleName("Image Options");
   AddEntry(*mnuImageOptions_, StretchImages, "&Stretch Images");
   AddEntry(*mnuImageOptions_, CenterImages, "C&enter Images");
   AddSharedEntries(*mnuImageOptions_);
