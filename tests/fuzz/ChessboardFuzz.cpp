@@ -1,0 +1,11 @@
+#include "storage/ChessboardFile.h"
+#include "tests/fuzz/MemoryFile.h"
+
+// Any bytes give a look that can be drawn: its frame is no wider than a player could have chosen.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const MemoryFile file(data, size);
+  Settings settings;
+  LoadChessboard(clsIniFile(), file.PathName(), settings);
+  if (settings.CornerDistance < 0 || settings.CornerDistance > 1500) __builtin_trap();
+  return 0;
+}

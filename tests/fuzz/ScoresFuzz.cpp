@@ -1,0 +1,25 @@
+#include "storage/ScoreLists.h"
+#include "tests/fuzz/MemoryFile.h"
+
+namespace {
+
+// Any game finds a place in any list or none, and a list with it can be written.
+void Enter(ScoreRows rows, const OfferedGame& game) {
+  const int place = InsertionPlace(rows, game);
+  if (place < 0 || place > 10) __builtin_trap();
+  if (place < 10) InsertScore(rows, place, RowOf(game, "Ann"));
+  if (place < 10 && rows.at(static_cast<std::size_t>(place)).name != "Ann") __builtin_trap();
+  if (ScoreEntries(ScoreSection(game.highScore), rows).size() != 30) __builtin_trap();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const MemoryFile file(data, size);
+  const auto moves = static_cast<std::int16_t>(size % 65);
+  for (const bool highScore : {false, true}) {
+    const ScoreRows rows = ReadScores(file.PathName(), ScoreSection(highScore));
+    Enter(rows, {moves, static_cast<std::int32_t>(size), highScore});
+  }
+  return 0;
+}
