@@ -100,6 +100,33 @@ TEST_F(Help, ShowsTheTreeOfContents) {
   EXPECT_EQ(tree.model()->index(0, 0).data().toString(), "Welcome to Gallopade Nova");
 }
 
+TEST_F(Help, MarksThePageThatIsShownInTheTreeOfContents) {
+  auto& tree = Child<QTreeView>(help, "helpContents");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return tree.model()->rowCount() > 5; }));
+  const auto marked = [&] { return tree.currentIndex().data().toString(); };
+  help.ShowTopic("How to Play");
+  EXPECT_EQ(marked(), "How to Play");
+  help.ShowContents();
+  EXPECT_EQ(marked(), "Welcome to Gallopade Nova");
+  Page().setSource(QUrl("rules.html"));
+  EXPECT_EQ(marked(), "The rules");
+  Button("helpBack").trigger();
+  EXPECT_EQ(marked(), "Welcome to Gallopade Nova");
+}
+
+TEST_F(Help, KeepsAPlaceWithinAPageMarkedThatWasChosenInTheTreeOfContents) {
+  auto& tree = Child<QTreeView>(help, "helpContents");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return tree.model()->rowCount() > 5; }));
+  help.ShowContents();
+  const QModelIndex menus = tree.model()->index(2, 0);
+  const QModelIndex edit = tree.model()->index(1, 0, menus);
+  ASSERT_EQ(edit.data().toString(), "Edit");
+  tree.scrollTo(edit);
+  QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualRect(edit).center());
+  EXPECT_EQ(Page().source().fragment(), "edit");
+  EXPECT_EQ(tree.currentIndex(), edit);
+}
+
 TEST_F(Help, FollowsALinkAndGoesBackAndForward) {
   help.ShowContents();
   EXPECT_FALSE(Button("helpBack").isEnabled());

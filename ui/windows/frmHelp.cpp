@@ -71,6 +71,7 @@ void frmHelp::BuildViewer() {
   setCentralWidget(splitter);
   BuildToolBar();
   AddWindowShortcuts();
+  // The signal comes before the page calls its new source its own.
   connect(page_, &QTextBrowser::sourceChanged, this, &frmHelp::SelectInContents);
   connect(page_, &HelpPage::LinkLeadsOut, this, [this](const QUrl& link) {
     statusBar()->showMessage("This link leads out of the help: " + link.toDisplayString());
@@ -153,7 +154,7 @@ void frmHelp::AddWindowShortcuts() {
 
 void frmHelp::ShowContentsTree() {
   contents_->expandAll();
-  SelectInContents();
+  SelectInContents(page_->source());
 }
 
 void frmHelp::OpenPage(const QUrl& page) {
@@ -168,8 +169,13 @@ void frmHelp::OpenPageAt(const QUrl& page, const QStringList& words) {
   if (!words.isEmpty()) page_->find(words.first());
 }
 
-void frmHelp::SelectInContents() {
-  const QModelIndex item = contents_->indexOf(page_->source());
+// A place within a page has an entry of its own, which the contents cannot look up: once chosen, it
+// stays marked.
+void frmHelp::SelectInContents(const QUrl& page) {
+  const auto* model = qobject_cast<QHelpContentModel*>(contents_->model());
+  const QHelpContentItem* current = model->contentItemAt(contents_->currentIndex());
+  if (current != nullptr && current->url() == page) return;
+  const QModelIndex item = contents_->indexOf(page);
   if (item.isValid()) contents_->setCurrentIndex(item);
 }
 

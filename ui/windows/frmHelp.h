@@ -36,7 +36,7 @@ class frmHelp : public QMainWindow {
   void ShowContentsTree();
   void OpenPage(const QUrl& page);
   void OpenPageAt(const QUrl& page, const QStringList& words);
-  void SelectInContents();
+  void SelectInContents(const QUrl& page);
   void BelongToOpenDialog();
   void RaiseWindow();
 
