@@ -7,7 +7,7 @@ build_packages=(
 virtual_display_packages=(xvfb x11vnc openbox fonts-dejavu-core)
 test_packages=(
   libgtest-dev libbenchmark-dev clang-format clang-tidy python3
-  xvfb openbox xdotool wmctrl x11-utils imagemagick fonts-dejavu-core
+  xvfb openbox xdotool wmctrl x11-utils imagemagick fonts-dejavu-core strace
   dbus at-spi2-core python3-pyatspi gir1.2-atspi-2.0 libxml2-utils
   cups cups-client poppler-utils
   desktop-file-utils appstream shared-mime-info libglib2.0-bin binutils

@@ -1,17 +1,21 @@
 #include "storage/FileReader.h"
 
 #include <cerrno>
+#include <sys/stat.h>
 
 #include <QFile>
-#include <QFileInfo>
 
 namespace {
 
 std::optional<ProgramError> WhyNotReadable(const QString& pathName) {
   if (pathName.isEmpty() || pathName.contains(QChar::Null)) return ProgramError::BadFileName;
-  const QFileInfo file(pathName);
-  if (!file.exists()) return ProgramError::FileNotFound;
-  if (!file.isFile()) return ProgramError::PathFileAccess;
+  // Asked of the system itself: to the toolkit a file that cannot be looked at just now is not
+  // there, and who takes it for missing writes a new one over it.
+  struct stat status {};
+  if (stat(QFile::encodeName(pathName).constData(), &status) != 0) {
+    return ErrorFromSystem(errno, ProgramError::FileNotFound);
+  }
+  if (!S_ISREG(status.st_mode)) return ProgramError::PathFileAccess;
   return std::nullopt;
 }
 

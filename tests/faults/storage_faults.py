@@ -27,7 +27,8 @@ CALLS = ("openat", "open", "creat", "read", "pread64", "write", "pwrite64", "fsy
          "ftruncate", "close", "rename", "renameat", "renameat2", "unlink", "unlinkat", "fchmod",
          "chmod", "flock", "stat", "lstat", "fstat", "newfstatat", "statx", "access", "faccessat2",
          "readlink", "getdents64", "mmap")
-SHORT_CALLS = ("openat", "read", "write", "fsync", "rename", "fchmod", "flock", "getdents64")
+SHORT_CALLS = ("openat", "read", "write", "fsync", "rename", "fchmod", "flock", "getdents64",
+               "access", "newfstatat", "statx")
 ERRORS = ("ENOSPC", "EIO", "EACCES", "EINTR")
 
 
