@@ -245,6 +245,16 @@ class Windows(AccessibilityTest):
         self.looks_at("Edit", "Command History...", "^Command History$")
         self.looks_at("File", "Solve...", "^Solve$")
 
+    def test_every_value_is_read_after_its_caption(self):
+        self.start_with(TOUR[:50])
+        self.choose("View", "Instant Replay...")
+        self.assertRegex("|".join(self.texts(self.reader.window("^Replay$"))),
+                         r"^Move:\|\d+\|Position:\|[A-H][1-8]\|Speed:\|0.5 sec.$")
+        self.leaves("^Replay$", question="^End Replay$")
+        self.choose("File", "Solve...")
+        self.assertRegex("|".join(self.texts(self.reader.window("^Solve$"))),
+                         r"^Tested:\|\d+\|Move:\|50\|Position:\|[A-H][1-8]\|")
+
     def test_the_windows_of_the_end_of_a_game(self):
         self.start()
         self.play(SHORT_GAME[:-1])

@@ -86,6 +86,26 @@ class Play(unittest.TestCase):
             self.start()
             self.assertEqual(wait_for(self.settled_geometry, "the window"), place)
 
+    def test_a_window_whose_stored_size_is_not_square_keeps_its_corner(self):
+        settings = self.program.parent / "GallopadeNova.ini"
+        settings.write_text("[Settings]\nLeft=3000\nTop=1500\nHeight=7500\nWidth=9000\n")
+        self.start()
+        wait_for(self.settled_geometry, "the window")
+        self.desktop.close(self.game)
+        wait_for(self.ended, "the program to end")
+        lines = settings.read_text().split()
+        self.assertIn("Left=3000", lines)
+        self.assertIn("Top=1500", lines)
+        self.assertIn("Height=7500", lines)
+
+    def test_a_window_without_a_stored_place_is_in_the_middle(self):
+        self.start()
+        self.desktop.close(self.game)
+        wait_for(self.ended, "the program to end")
+        lines = (self.program.parent / "GallopadeNova.ini").read_text().split()
+        self.assertIn("Left=4800", lines)
+        self.assertIn("Width=9600", lines)
+
     def settled_geometry(self):
         first = self.desktop.geometry(self.game)
         return first if first == self.desktop.geometry(self.game) else None

@@ -28,6 +28,18 @@ int PixelFrom(std::optional<double> twips, int otherwise) {
       std::lround(std::clamp(PixelsFromTwips(*twips), -LargestPixel, LargestPixel)));
 }
 
+int MinimumHeight() {
+  return static_cast<int>(std::lround(PixelsFromTwips(MinimumInnerHeightTwips)));
+}
+
+// The size that the window of this height would give itself as soon as it is shown, whatever its
+// width. Asking for it only then would also move the window: its own corner would be put where that
+// of its frame belongs.
+QSize SizeOfHeight(int height, int menuHeight) {
+  if (height - menuHeight < MinimumHeight()) height = MinimumHeight();
+  return {std::max(height - menuHeight, 1), height};
+}
+
 }  // namespace
 
 void frmGame::CreateBoard() {
@@ -56,9 +68,10 @@ void frmGame::ApplyPlacement(const WindowPlacement& placement) {
   const int designedSide =
       std::min({static_cast<int>(PixelsFromTwips(DesignedInnerSideTwips)), available.width(),
                 available.height() - menuHeight - DecorationAllowance});
-  const QSize size(std::max(PixelFrom(placement.Width, designedSide), 1),
-                   std::max(PixelFrom(placement.Height, designedSide + menuHeight), 1));
-  const QPoint centred = available.center() - QPoint(size.width() / 2, size.height() / 2);
+  const QSize size =
+      SizeOfHeight(PixelFrom(placement.Height, designedSide + menuHeight), menuHeight);
+  const QPoint centred(available.left() + (available.width() - size.width()) / 2,
+                       available.top() + (available.height() - size.height()) / 2);
   placedBounds_ = BroughtOntoScreen(
       {{PixelFrom(placement.Left, centred.x()), PixelFrom(placement.Top, centred.y())}, size});
   move(placedBounds_.topLeft());
@@ -125,9 +138,10 @@ void frmGame::CatchUpOnResize() {
 
 // Too low a window is given its smallest height; in that height the board is laid out as usual.
 bool frmGame::SnapToMinimumHeight() {
-  const int minimum = static_cast<int>(std::lround(PixelsFromTwips(MinimumInnerHeightTwips)));
-  if (board_->height() >= minimum || height() == minimum || isMaximized()) return false;
-  resize(width(), minimum);
+  if (board_->height() >= MinimumHeight() || height() == MinimumHeight() || isMaximized()) {
+    return false;
+  }
+  resize(width(), MinimumHeight());
   return true;
 }
 

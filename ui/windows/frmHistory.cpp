@@ -73,7 +73,6 @@ void frmHistory::AddOptions() {
           &frmHistory::mnuEditExport_Click);
   connect(add("mnuEditPrint", "&Print Moves on Default Printer"), &QAction::triggered, this,
           &frmHistory::mnuEditPrint_Click);
-  mnuEdit_->addSeparator();
   add("mnuEditCancel", "&Cancel");
 }
 

@@ -65,14 +65,15 @@ frmReplay::frmReplay(const CommandContext& context, QWidget* mainWindow)
   cmdAdvancePause_->setFocus();
 }
 
+// Made in the order in which they are read aloud: each value after its caption.
 QGroupBox* frmReplay::AddKnightFrame() {
   QGroupBox* frame = NewFrame(this, "fraKnight", " Knight:");
-  lblMoveValue_ = AddValueLabel(frame, "lblMoveValue", "64");
-  lblPositionValue_ = AddValueLabel(frame, "lblPositionValue", "WW");
   auto* layout = new QGridLayout(frame);
   layout->addWidget(AddLabel(frame, "lblMove", "Move:"), 0, 0);
+  lblMoveValue_ = AddValueLabel(frame, "lblMoveValue", "64");
   layout->addWidget(lblMoveValue_, 0, 1, Qt::AlignRight);
   layout->addWidget(AddLabel(frame, "lblPosition", "Position:"), 1, 0);
+  lblPositionValue_ = AddValueLabel(frame, "lblPositionValue", "WW");
   layout->addWidget(lblPositionValue_, 1, 1, Qt::AlignRight);
   return frame;
 }

@@ -54,18 +54,19 @@ frmSolve::frmSolve(const CommandContext& context, QWidget* mainWindow)
   ShowValues(0);
 }
 
+// Made in the order in which they are read aloud: each value after its caption.
 QGroupBox* frmSolve::AddKnightFrame() {
   QGroupBox* frame = NewFrame(this, "fraKnight", " Knight:");
-  lblTestedValue_ = AddValueLabel(frame, "lblTestedValue", "888888888888888");
-  lblMoveValue_ = AddValueLabel(frame, "lblMoveValue", "88");
-  lblPositionValue_ = AddValueLabel(frame, "lblPositionValue", "W8");
   auto* layout = new QGridLayout(frame);
   layout->setColumnStretch(1, 1);
   layout->addWidget(AddLabel(frame, "lblTested", "Tested:"), 0, 0);
+  lblTestedValue_ = AddValueLabel(frame, "lblTestedValue", "888888888888888");
   layout->addWidget(lblTestedValue_, 0, 1, Qt::AlignRight);
   layout->addWidget(AddLabel(frame, "lblMove", "Move:"), 1, 0);
+  lblMoveValue_ = AddValueLabel(frame, "lblMoveValue", "88");
   layout->addWidget(lblMoveValue_, 1, 1, Qt::AlignRight);
   layout->addWidget(AddLabel(frame, "lblPosition", "Position:"), 2, 0);
+  lblPositionValue_ = AddValueLabel(frame, "lblPositionValue", "W8");
   layout->addWidget(lblPositionValue_, 2, 1, Qt::AlignRight);
   return frame;
 }
