@@ -6,6 +6,7 @@
 #include <ctime>
 #include <poll.h>
 #include <sys/syscall.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -15,6 +16,7 @@ constexpr std::int64_t NanosecondsOfMillisecond = 1'000'000;
 constexpr std::int64_t SystemClockAtStart = 1'900'000'000;
 constexpr std::int64_t SteadyClockAtStart = 1'000;
 constexpr std::size_t KernelSignalSetSize = 8;
+constexpr std::int64_t SecondsForChildren = 5;
 
 std::atomic<std::int64_t> nanoseconds = 0;
 std::atomic<std::int64_t> waits = 0;
@@ -27,6 +29,12 @@ int KernelPoll(pollfd* files, nfds_t count, const timespec* timeout, const sigse
   timespec left = timeout != nullptr ? *timeout : timespec{};
   return static_cast<int>(syscall(SYS_ppoll, files, count, timeout != nullptr ? &left : nullptr,
                                   mask, KernelSignalSetSize));
+}
+
+// A command that the program has started takes its time in the real world.
+bool HasChildren() {
+  siginfo_t info{};
+  return waitid(P_ALL, 0, &info, WEXITED | WNOHANG | WNOWAIT) == 0;
 }
 
 }  // namespace
@@ -50,9 +58,9 @@ int clock_gettime(clockid_t clock, timespec* time) noexcept {
 
 int ppoll(pollfd* files, nfds_t count, const timespec* timeout, const sigset_t* mask) {
   if (!IsMainThread()) return KernelPoll(files, count, timeout, mask);
-  const timespec atOnce{};
-  const int ready = KernelPoll(files, count, &atOnce, mask);
   const bool waiting = timeout == nullptr || timeout->tv_sec > 0 || timeout->tv_nsec > 0;
+  const timespec patience{waiting && HasChildren() ? SecondsForChildren : 0, 0};
+  const int ready = KernelPoll(files, count, &patience, mask);
   if (ready != 0 || !waiting) {
     nanoseconds += NanosecondsOfMillisecond;
     return ready;

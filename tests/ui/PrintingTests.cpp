@@ -104,3 +104,15 @@ TEST_F(Printing, IsFinishedWhenTheWindowIsClosedAtOnce) {
   });
   EXPECT_TRUE(Contents("commands/page.pdf").trimmed().endsWith("%%EOF"));
 }
+
+TEST_F(Printing, LeavesNoFileOpenHoweverOftenItFails) {
+  const auto openFiles = [] { return QDir("/proc/self/fd").count(); };
+  for (const char* script : {"", "exit 1\n", "kill -9 $$\n"}) {
+    PrintBy(script);
+    OpenGame(3);
+    Print(Outcome::Message);
+    const auto before = openFiles();
+    for (int attempt = 0; attempt < 3; ++attempt) Print(Outcome::Message);
+    EXPECT_EQ(openFiles(), before) << script;
+  }
+}

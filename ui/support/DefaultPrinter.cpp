@@ -24,7 +24,9 @@ DefaultPrinter::DefaultPrinter() {
 void DefaultPrinter::Print(const QString& title, const QByteArray& pdf) {
   printing_ = true;
   patience_.start();
-  command_.start("lp", {"-t", title});
+  // Through the shell, which is always there: the toolkit loses an open file with every command
+  // that cannot be started.
+  command_.start("/bin/sh", {"-c", "exec lp -t \"$1\"", "print", title});
   command_.write(pdf);
   command_.closeWriteChannel();
 }

@@ -120,6 +120,8 @@ class MenuBuilder {
   // Dialogs keep mouse and keys away, but not a screen reader.
   static void Choose(frmGame& window, QAction& action, Handler handler) {
     const bool reachable = QApplication::activeModalWidget() == nullptr;
+    // As every close, it is remembered while work is going on.
+    if (reachable && handler == &frmGame::mnuFileExit_Click) return window.mnuFileExit_Click();
     const bool done = reachable && window.Perform([&] { (window.*handler)(); });
     if (!done && action.isCheckable()) action.toggle();  // back: the toolkit has toggled it already
   }
