@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QMap>
 
 #include "tests/storm/Storm.h"
@@ -46,6 +47,8 @@ int main(int argumentCount, char* arguments[]) {
   qunsetenv("QT_QPA_PLATFORMTHEME");
   qunsetenv("XDG_CURRENT_DESKTOP");
   qputenv("PATH", "/nowhere");  // no printer
+  // Files that live in memory are on the disk at once.
+  if (QFileInfo("/dev/shm").isWritable()) qputenv("TMPDIR", "/dev/shm");
   VirtualTime::Begin();
   const QApplication application(argumentCount, arguments);
   const Wishes wishes = Read(QApplication::arguments());

@@ -1,6 +1,7 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QFileInfo>
 #include <gtest/gtest.h>
 
 #include "tests/storm/VirtualTime.h"
@@ -19,6 +20,8 @@ int main(int argumentCount, char* arguments[]) {
   qunsetenv("QT_QPA_PLATFORMTHEME");
   qunsetenv("XDG_CURRENT_DESKTOP");
   qputenv("PATH", "/nowhere");
+  // Files that live in memory are on the disk at once.
+  if (QFileInfo("/dev/shm").isWritable()) qputenv("TMPDIR", "/dev/shm");
   VirtualTime::Begin();
   testing::InitGoogleTest(&argumentCount, arguments);
   const QApplication application(argumentCount, arguments);
