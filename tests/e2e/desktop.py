@@ -36,8 +36,9 @@ def wait_for(condition, what):
 class Desktop:
     """Entered as a context; everything that it started ends with it."""
 
-    def __init__(self, screen="1280x800x24"):
+    def __init__(self, screen="1280x800x24", window_manager=True):
         self.screen = screen
+        self.window_manager = window_manager
         self.processes = []
         self.folder = None
         self.environment = None
@@ -56,9 +57,8 @@ class Desktop:
         }
         self._start_session_bus()
         os.environ.update(self.environment)
-        self._start(["openbox"])
-        wait_for(lambda: self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK").count("window id"),
-                 "the window manager")
+        if self.window_manager:
+            self._start_window_manager()
         return self
 
     def __exit__(self, *_):
@@ -92,6 +92,11 @@ class Desktop:
         bus = self._start(["dbus-daemon", "--session", "--nofork", "--print-address=1"],
                           stdout=subprocess.PIPE, text=True)
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
+
+    def _start_window_manager(self):
+        self._start(["openbox"])
+        wait_for(lambda: self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK").count("window id"),
+                 "the window manager")
 
     def run(self, *command):
         """The output of a command that runs on this desktop."""

@@ -132,6 +132,29 @@ class Play(unittest.TestCase):
         self.caption_begins("Gallopade Nova: 7 ")
 
 
+class WithoutAWindowManager(unittest.TestCase):
+    def setUp(self):
+        self.desktop = self.enterContext(Desktop(window_manager=False))
+        folder = self.enterContext(tempfile.TemporaryDirectory())
+        self.desktop.start_program(copy_of_program(PROGRAM_DIRECTORY, folder) / "GallopadeNova")
+        self.game = self.desktop.window(TITLE)
+
+    def caption_begins(self, text):
+        wait_for(lambda: self.desktop.title(self.game).startswith(text), f"the caption {text}")
+
+    def test_the_game_and_its_questions_have_the_keyboard_in_turn(self):
+        wait_for(lambda: self.desktop.focused() == self.game, "the keyboard in the game")
+        for _ in range(3):
+            self.desktop.press("Right", "Down", "Down", "Return")
+            self.caption_begins("Gallopade Nova: 2 ")
+            self.desktop.press("F2")
+            question = self.desktop.window(r"^New Game\?$")
+            wait_for(lambda: self.desktop.focused() == question, "the keyboard in the question")
+            self.desktop.press("Return")
+            self.caption_begins("Gallopade Nova: 1 ")
+            wait_for(lambda: self.desktop.focused() == self.game, "the keyboard in the game")
+
+
 if __name__ == "__main__":
     PROGRAM_DIRECTORY = Path(sys.argv.pop(1))
     unittest.main()

@@ -79,8 +79,10 @@ void frmGame::ApplyPlacement(const WindowPlacement& placement) {
   if (placement.State == Maximised) setWindowState(windowState() | Qt::WindowMaximized);
 }
 
+// Where no window manager gives it the keyboard, the window asks for it.
 void frmGame::ShowWindow() {
   show();
+  activateWindow();
 }
 
 bool frmGame::IsMinimised() const {
