@@ -1,0 +1,78 @@
+#!/usr/bin/env python3
+"""Breaks twenty conditions that matter, one after the other, and sees that a test notices each.
+
+    tests/mutations/run.py
+
+Works on a copy of what is committed, in a folder of its own; takes some minutes.
+"""
+
+import os
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+# Where, what it says, what it says for once, and the room whose tests must notice.
+MUTATIONS = (
+    ("core/Moves.cpp", "GoodGame = 33", "GoodGame = 34", "core"),
+    ("core/Moves.cpp", "state_.MoveCount >= 1", "state_.MoveCount >= 2", "core"),
+    ("core/Moves.cpp", "if (state_.ApplyingMoves) return;\n  window_.EnableClock(true);",
+     "window_.EnableClock(true);", "core"),
+    ("core/Moves.cpp", "if (!free || !IsKnightsMove(", "if (!IsKnightsMove(", "core"),
+    ("core/Moves.cpp", "button == -1", "button != -1", "core"),
+    ("core/UndoRedo.cpp", "i = state_.MoveCount; i <", "i = state_.MoveCount + 1; i <", "core"),
+    ("core/UndoRedo.cpp", "if (!playerPickedFirstSquare) return;", "", "core"),
+    ("core/UndoRedo.cpp", "state_.MoveCount == 2", "state_.MoveCount == 3", "core"),
+    ("core/Clock.cpp", "(halfSeconds % 2) * 5", "(halfSeconds % 2)", "core"),
+    ("core/Clock.cpp", "== 1 ? 0 : 1", "== 1 ? 1 : 0", "core"),
+    ("core/GameFlow.cpp", "state_.MoveCount > 1 ||", "state_.MoveCount > 0 ||", "core"),
+    ("core/GameFlow.cpp", "if (state_.ApplyingMoves) return;\n  ClearRedo();", "ClearRedo();",
+     "core"),
+    ("solver/TourSolver.cpp", "task.SolveRefreshRate + 1", "task.SolveRefreshRate", "solver"),
+    ("solver/TourSearch.cpp", "pauseAt_ = entries_ + entries", "pauseAt_ = entries_ + entries + 1",
+     "solver"),
+    ("storage/ScoreLists.cpp", ".time <= game.totalTime", ".time < game.totalTime", "storage"),
+    ("storage/ScoreLists.cpp", ".time > game.totalTime", ".time >= game.totalTime", "storage"),
+    ("storage/GameFile.cpp", "line->endsWith('-')", "line->startsWith('-')", "storage"),
+    ("storage/GameFile.cpp", "if (x != -1) file.failure", "if (x != -2) file.failure", "storage"),
+    ("storage/FileWriter.cpp", "if (lock.IsHeld()) Remove", "Remove", "storage"),
+    ("storage/MoveListExport.cpp", '".rtf"', '".RTF"', "storage"),
+)
+
+
+def run(*command, folder):
+    return subprocess.run(command, cwd=folder, capture_output=True, text=True, check=False,
+                          env={**os.environ, "GALLOPADE_KILLS": "3"})
+
+
+def notices(copy, room):
+    program = f"{room}_tests"
+    built = run("cmake", "--build", "build/dev", "--target", program, folder=copy)
+    if built.returncode != 0:
+        return f"does not compile:\n{built.stdout[-2000:]}"
+    tests = run(f"build/dev/tests/{room}/{program}", "--gtest_brief=1", folder=copy)
+    return "noticed" if tests.returncode != 0 else "NOT NOTICED"
+
+
+def main():
+    missed = 0
+    with tempfile.TemporaryDirectory() as folder:
+        copy = Path(folder) / "copy"
+        subprocess.run(["git", "clone", "-q", ROOT, copy], check=True)
+        run("cmake", "--preset", "dev", "-DGALLOPADE_BENCH=OFF", folder=copy)
+        for name, before, after, room in MUTATIONS:
+            path = copy / name
+            source = path.read_text(encoding="utf-8")
+            assert source.count(before) == 1, f"{name} has {before!r} {source.count(before)} times"
+            path.write_text(source.replace(before, after), encoding="utf-8")
+            result = notices(copy, room)
+            path.write_text(source, encoding="utf-8")
+            missed += result != "noticed"
+            print(f"{name}: {before!r}: {result}", flush=True)
+    print(f"{len(MUTATIONS) - missed} of {len(MUTATIONS)} noticed")
+    return 1 if missed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
