@@ -19,7 +19,7 @@ MUTATIONS = (
     ("core/Moves.cpp", "state_.MoveCount >= 1", "state_.MoveCount >= 2", "core"),
     ("core/Moves.cpp", "if (state_.ApplyingMoves) return;\n  window_.EnableClock(true);",
      "window_.EnableClock(true);", "core"),
-    ("core/Moves.cpp", "if (!free || !IsKnightsMove(", "if (!IsKnightsMove(", "core"),
+    ("core/Moves.cpp", "free = state_.Cell(x, y) == GameState::Unvisited", "free = true", "core"),
     ("core/Moves.cpp", "button == -1", "button != -1", "core"),
     ("core/UndoRedo.cpp", "i = state_.MoveCount; i <", "i = state_.MoveCount + 1; i <", "core"),
     ("core/UndoRedo.cpp", "if (!playerPickedFirstSquare) return;", "", "core"),
