@@ -22,6 +22,16 @@ std::array<int, BoardSide + 1> CellEdges(const BoardLayout& layout, double devic
   return edges;
 }
 
+std::array<PixelSpan, BoardSide> CellSpans(const BoardLayout& layout, double devicePixelRatio) {
+  const auto edges = CellEdges(layout, devicePixelRatio);
+  std::array<PixelSpan, BoardSide> spans{};
+  for (std::size_t i = 0; i < spans.size(); ++i) {
+    spans[i] = {static_cast<int>(std::floor(edges[i] / devicePixelRatio)),
+                static_cast<int>(std::ceil(edges[i + 1] / devicePixelRatio))};
+  }
+  return spans;
+}
+
 int SquareAt(const BoardLayout& layout, double devicePixelRatio, double position) {
   const auto edges = CellEdges(layout, devicePixelRatio);
   const double devicePosition = position * devicePixelRatio;

@@ -35,5 +35,14 @@ double InnerCellSide(const BoardLayout& layout, bool useBorders);
 // that no seam is blended and the board fills its area exactly.
 std::array<int, BoardSide + 1> CellEdges(const BoardLayout& layout, double devicePixelRatio);
 
+// From its first logical pixel up to the one after its last.
+struct PixelSpan {
+  int begin = 0;
+  int end = 0;
+};
+
+// The logical pixels that each column (and row) touches.
+std::array<PixelSpan, BoardSide> CellSpans(const BoardLayout& layout, double devicePixelRatio);
+
 // Which column (or row) holds a position in logical pixels; -1 outside the board.
 int SquareAt(const BoardLayout& layout, double devicePixelRatio, double position);

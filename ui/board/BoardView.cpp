@@ -12,6 +12,16 @@
 #include "ui/board/BoardKeys.h"
 #include "ui/support/SystemColors.h"
 
+namespace {
+
+QRect RectangleOf(const std::array<PixelSpan, BoardSide>& spans, int index) {
+  const PixelSpan& across = spans[static_cast<std::size_t>(ColumnOf(index))];
+  const PixelSpan& down = spans[static_cast<std::size_t>(RowOf(index))];
+  return {across.begin, down.begin, across.end - across.begin, down.end - down.begin};
+}
+
+}  // namespace
+
 BoardView::BoardView(const GameState& state, QWidget* parent) : QWidget(parent), state_(state) {
   AccessibleBoard::Install();
   setObjectName("pctGrid");
@@ -54,17 +64,9 @@ void BoardView::PaintEverything() {
   update();
 }
 
-QRegion BoardView::ChangedRegion() {
-  QRegion region;
-  for (BoardModel::CellSet changes = model_.TakeChanges(); changes != 0; changes &= changes - 1) {
-    region += SquareRectangle(std::countr_zero(changes));
-  }
-  return region;
-}
-
 void BoardView::ShowChanges() {
-  const QRegion region = ChangedRegion();
-  if (!region.isEmpty()) update(region);
+  const BoardModel::CellSet changes = model_.TakeChanges();
+  if (changes != 0) update(RegionOf(changes));
   announcer_.Announce();
 }
 
@@ -75,18 +77,19 @@ int BoardView::SquareOfInterest() const {
 }
 
 void BoardView::ShowChangesNow() {
-  const QRegion region = ChangedRegion();
-  if (!region.isEmpty()) repaint(region);
+  const BoardModel::CellSet changes = model_.TakeChanges();
+  if (changes != 0) repaint(RegionOf(changes));
+}
+
+QRegion BoardView::RegionOf(BoardModel::CellSet cells) const {
+  QRegion region;
+  const auto spans = CellSpans(layout_, devicePixelRatioF());
+  for (; cells != 0; cells &= cells - 1) region += RectangleOf(spans, std::countr_zero(cells));
+  return region;
 }
 
 QRect BoardView::SquareRectangle(int index) const {
-  const double ratio = devicePixelRatioF();
-  const auto edges = CellEdges(layout_, ratio);
-  const auto logical = [&](int edge) { return edges[static_cast<std::size_t>(edge)] / ratio; };
-  const int x = ColumnOf(index);
-  const int y = RowOf(index);
-  return QRectF(QPointF(logical(x), logical(y)), QPointF(logical(x + 1), logical(y + 1)))
-      .toAlignedRect();
+  return RectangleOf(CellSpans(layout_, devicePixelRatioF()), index);
 }
 
 int BoardView::SquareAtPosition(QPointF position) const {
@@ -121,15 +124,19 @@ void BoardView::paintEvent(QPaintEvent* event) {
 void BoardView::PaintCells(QPainter& painter, const QRegion& region) {
   const double ratio = devicePixelRatioF();
   const auto edges = CellEdges(layout_, ratio);
+  const auto spans = CellSpans(layout_, ratio);
+  const QPalette& colors = palette();
   for (int index = 0; index < SquareCount; ++index) {
-    if (!region.intersects(SquareRectangle(index))) continue;
+    if (!region.intersects(RectangleOf(spans, index))) continue;
     const BoardCell& cell = model_.Cell(index);
     const auto x = static_cast<std::size_t>(ColumnOf(index));
     const auto y = static_cast<std::size_t>(RowOf(index));
-    const QColor color = ResolveColor(cell.backColor.value_or(backgroundColor_), palette());
-    painter.drawPixmap(edges[x], edges[y],
-                       cellPainter_.PixmapFor(cell, color, edges[x + 1] - edges[x],
-                                              edges[y + 1] - edges[y], ratio));
+    const QRect square(edges[x], edges[y], edges[x + 1] - edges[x], edges[y + 1] - edges[y]);
+    // Inside one rectangle the toolkit copies a picture at once, and otherwise line by line.
+    painter.setClipRect(square);
+    painter.drawPixmap(square.topLeft(),
+                       cellPainter_.PixmapFor(cell, cell.backColor.value_or(backgroundColor_),
+                                              colors, square.size(), ratio));
     ++paintedCells_;
   }
 }

@@ -67,7 +67,7 @@ class BoardView : public QWidget {
 
  private:
   void PaintEverything();
-  QRegion ChangedRegion();
+  QRegion RegionOf(BoardModel::CellSet cells) const;
   void PaintCells(QPainter& painter, const QRegion& region);
   void PaintBackground(QPainter& painter, const QRegion& region);
 

@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "ui/board/BoardLayout.h"
+#include "ui/support/SystemColors.h"
 
 namespace {
 
@@ -22,23 +23,23 @@ void CellPainter::SetPictures(const BoardPictures& pictures) {
   Clear();
 }
 
-const QPixmap& CellPainter::PixmapFor(const BoardCell& cell, const QColor& color, int width,
-                                      int height, double devicePixelRatio) {
+const QPixmap& CellPainter::PixmapFor(const BoardCell& cell, Color color, const QPalette& palette,
+                                      const QSize& size, double devicePixelRatio) {
   const bool hasPicture = cell.imageVisible && cell.picture.has_value();
   const int picture = hasPicture ? static_cast<int>(*cell.picture) : -1;
-  const Look look{width,   height,       color.rgb(),    cell.border,
-                  picture, cell.stretch, cell.imageLeft, cell.imageTop};
+  const Look look{size.width(), size.height(), color,          cell.border,
+                  picture,      cell.stretch,  cell.imageLeft, cell.imageTop};
   if (const auto made = pixmaps_.find(look); made != pixmaps_.end()) return made->second;
   if (pixmaps_.size() >= MaximumLooks) Clear();
 
-  QImage image(width, height, QImage::Format_RGB32);
-  image.fill(color);
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(ResolveColor(color, palette));
   QPainter painter(&image);
   const int border = cell.border ? DevicePixels(BorderTwips, devicePixelRatio) : 0;
-  const QRect inside(border, border, width - 2 * border, height - 2 * border);
+  const QRect inside = image.rect().adjusted(border, border, -border, -border);
   if (hasPicture) DrawPicture(painter, cell, inside, devicePixelRatio);
   if (border > 0) {
-    QRegion frame(0, 0, width, height);
+    QRegion frame(image.rect());
     frame -= inside;
     for (const QRect& side : frame) painter.fillRect(side, Qt::black);
   }

@@ -3,7 +3,7 @@
 #include <map>
 #include <tuple>
 
-#include <QColor>
+#include <QPalette>
 #include <QPixmap>
 
 #include "ui/board/BoardModel.h"
@@ -19,12 +19,13 @@ class CellPainter {
   // Forgets what was made: for a new size, scale or palette.
   void Clear() { pixmaps_.clear(); }
 
-  // width, height: device pixels.
-  const QPixmap& PixmapFor(const BoardCell& cell, const QColor& color, int width, int height,
-                           double devicePixelRatio);
+  // size: device pixels. color: as it is stored; it is looked up in the palette only for a pixmap
+  // that has to be made.
+  const QPixmap& PixmapFor(const BoardCell& cell, Color color, const QPalette& palette,
+                           const QSize& size, double devicePixelRatio);
 
  private:
-  using Look = std::tuple<int, int, QRgb, bool, int, bool, double, double>;
+  using Look = std::tuple<int, int, Color, bool, int, bool, double, double>;
 
   void DrawPicture(QPainter& painter, const BoardCell& cell, const QRect& inside,
                    double devicePixelRatio) const;

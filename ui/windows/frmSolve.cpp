@@ -10,6 +10,7 @@
 
 #include "core/NumberText.h"
 #include "ui/support/ScrollBar.h"
+#include "ui/support/ValueLabel.h"
 
 namespace {
 
@@ -24,11 +25,9 @@ QLabel* AddLabel(QWidget* parent, const char* name, const QString& text) {
   return label;
 }
 
-// A label of the size of its longest text: a new value moves nothing else in the window.
-QLabel* AddValueLabel(QWidget* parent, const char* name, const QString& longest) {
-  QLabel* label = AddLabel(parent, name, longest);
-  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  label->setFixedSize(label->sizeHint());
+ValueLabel* AddValueLabel(QWidget* parent, const char* name, const QString& longest) {
+  auto* label = new ValueLabel(longest, parent);
+  label->setObjectName(name);
   return label;
 }
 

@@ -18,7 +18,7 @@ class ScrollBar;
 //
 // The search runs inside the click that starts it. Whatever the player does meanwhile arrives in
 // the middle of it, when it yields: closing then waits for the search to unwind.
-class frmSolve : public QDialog, private SolveProgress {
+class frmSolve : public QDialog, public SolveProgress {
   Q_OBJECT
 
  public:
@@ -33,6 +33,8 @@ class frmSolve : public QDialog, private SolveProgress {
   void cmdBacktrack_Click();
   void cmdClose_Click();
 
+  void ShowProgress() override;
+
   // Every way of closing ends here. It cannot be cancelled, but it may have to wait.
   void done(int result) override;
 
@@ -42,7 +44,6 @@ class frmSolve : public QDialog, private SolveProgress {
   QGroupBox* AddControlsFrame();
   QPushButton* AddButton(const char* name, const char* caption, void (frmSolve::*handler)());
 
-  void ShowProgress() override;
   void ShowValues(std::int64_t tested);
   void OfferStop(bool stop);
   void Search();

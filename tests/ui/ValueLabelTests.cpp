@@ -1,0 +1,90 @@
+#include <QAccessible>
+#include <QGroupBox>
+#include <gtest/gtest.h>
+
+#include "ui/support/ValueLabel.h"
+
+namespace {
+
+// A value in a frame, as it stands in a window.
+struct Framed {
+  Framed() {
+    value.move(10, 30);
+    frame.resize(200, 80);
+    frame.show();
+  }
+  // Whether a pixel of this colour is in the picture of the label.
+  bool Shows(const QColor& color) {
+    const QImage image = frame.grab(value.geometry()).toImage();
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        if (image.pixelColor(x, y) == color) return true;
+      }
+    }
+    return false;
+  }
+
+  QGroupBox frame;
+  ValueLabel value{"88888888", &frame};
+};
+
+QImage Picture(QWidget& widget) {
+  return widget.grab().toImage();
+}
+
+}  // namespace
+
+TEST(ValueLabelTest, KeepsTheSizeOfItsLongestText) {
+  Framed framed;
+  const QSize size = framed.value.size();
+  framed.value.setText("1");
+  EXPECT_EQ(framed.value.size(), size);
+  EXPECT_EQ(framed.value.minimumSize(), framed.value.maximumSize());
+}
+
+TEST(ValueLabelTest, StandsOnTheRight) {
+  Framed framed;
+  framed.value.setText(QString());
+  const QImage empty = Picture(framed.frame);
+  framed.value.setText("8");
+  const QImage full = Picture(framed.frame);
+  const QRect box = framed.value.geometry();
+  const QRect left(box.topLeft(), QSize(box.width() / 2, box.height()));
+  EXPECT_EQ(full.copy(left), empty.copy(left));
+  EXPECT_NE(full, empty);
+}
+
+TEST(ValueLabelTest, ShowsItsParentBehindTheText) {
+  Framed framed;
+  framed.value.setText(QString());
+  const QImage covered = Picture(framed.frame);
+  framed.value.hide();
+  EXPECT_EQ(Picture(framed.frame), covered);
+}
+
+TEST(ValueLabelTest, FollowsTheColoursOfTheDesktop) {
+  Framed framed;
+  EXPECT_FALSE(framed.Shows(Qt::red));
+  QPalette palette = framed.frame.palette();
+  palette.setColor(QPalette::WindowText, Qt::red);
+  framed.frame.setPalette(palette);
+  EXPECT_TRUE(framed.Shows(Qt::red));
+}
+
+TEST(ValueLabelTest, LeavesNoTraceOfItsLastValue) {
+  Framed framed;
+  framed.value.setText("1234");
+  const QImage first = Picture(framed.frame);
+  framed.value.setText("567");
+  Picture(framed.frame);
+  framed.value.setText("1234");
+  EXPECT_EQ(Picture(framed.frame), first);
+}
+
+TEST(ValueLabelTest, TellsItsValueToAScreenReader) {
+  Framed framed;
+  framed.value.setText("4711");
+  QAccessibleInterface* label = QAccessible::queryAccessibleInterface(&framed.value);
+  EXPECT_EQ(label->role(), QAccessible::StaticText);
+  EXPECT_EQ(label->text(QAccessible::Name), "4711");
+}
