@@ -129,7 +129,10 @@ void frmGame::CloseAsRequested() {
   });
 }
 
+// The window manager cannot close it behind a dialog; nobody else shall either, since the dialog
+// goes on with the game.
 void frmGame::closeEvent(QCloseEvent* event) {
+  if (QApplication::activeModalWidget() != nullptr) return event->ignore();
   closeRequested_ = works_ > 0;
   event->setAccepted(!closeRequested_ && game_.Form_Unload());
 }
