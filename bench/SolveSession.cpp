@@ -1,0 +1,141 @@
+#include "bench/SolveSession.h"
+
+#include <chrono>
+#include <ctime>
+#include <thread>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTimer>
+
+#include "ui/board/BoardView.h"
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// Counts how often one widget is painted.
+class PaintCounter : public QObject {
+ public:
+  explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
+  std::int64_t Count() const { return count_; }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++count_;
+    return false;
+  }
+
+ private:
+  std::int64_t count_ = 0;
+};
+
+long ResidentKilobytes() {
+  QFile file("/proc/self/statm");
+  if (!file.open(QIODevice::ReadOnly)) return 0;
+  return file.readAll().split(' ').at(1).toLong() * sysconf(_SC_PAGESIZE) / 1024;
+}
+
+QPushButton& StartStop(QWidget& solve) {
+  return *solve.findChild<QPushButton*>("cmdStartStop");
+}
+
+QLabel& Label(QWidget& solve, const char* name) {
+  return *solve.findChild<QLabel*>(name);
+}
+
+QEvent* MouseEvent(const QWidget& button, QEvent::Type type) {
+  const QPointF middle = button.rect().center();
+  const bool pressed = type == QEvent::MouseButtonPress;
+  return new QMouseEvent(type, middle, button.mapToGlobal(middle), Qt::LeftButton,
+                         pressed ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+}
+
+}  // namespace
+
+double SecondsSpent() {
+  if (QGuiApplication::platformName() == "offscreen") {
+    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+  }
+  return std::chrono::duration<double>(Clock::now().time_since_epoch()).count();
+}
+
+SolveSession::SolveSession() : window_(globals_) {
+  globals_.ProgramDirectory = directory_.path() + "/";
+  for (const QString& picture : QDir(PICTURES_DIRECTORY).entryList(QDir::Files)) {
+    QFile::copy(PICTURES_DIRECTORY + picture, directory_.filePath(picture));
+  }
+  window_.Form_Load(QString());
+  globals_.settings.ShowSolveWarnings = false;
+}
+
+void SolveSession::InSolveWindow(int refreshRate, const std::function<void(QWidget&)>& act) {
+  globals_.settings.SolveRefreshRate = static_cast<std::int16_t>(refreshRate);
+  QTimer::singleShot(200, &window_, [&] {
+    QWidget& solve = *QApplication::activeModalWidget();
+    act(solve);
+    solve.close();
+  });
+  window_.mnuFileSolve_Click();
+}
+
+SearchReport SolveSession::Search(int refreshRate, int milliseconds) {
+  SearchReport report;
+  InSolveWindow(refreshRate, [&](QWidget& solve) {
+    QLabel& tested = Label(solve, "lblTestedValue");
+    const PaintCounter board(window_.Board());
+    const PaintCounter count(tested);
+    const PaintCounter square(Label(solve, "lblPositionValue"));
+    const std::uint64_t cellsBefore = window_.Board().PaintedCells();
+    const double begun = SecondsSpent();
+    QTimer::singleShot(milliseconds, &solve, [&] {
+      report = {.entries = tested.text().toLongLong() + 1,
+                .seconds = SecondsSpent() - begun,
+                .boardPaints = board.Count(),
+                .cellsPainted = window_.Board().PaintedCells() - cellsBefore,
+                .countPaints = count.Count(),
+                .squarePaints = square.Count()};
+      StartStop(solve).click();
+    });
+    StartStop(solve).click();
+  });
+  report.redraws = report.entries / (refreshRate + 1);
+  return report;
+}
+
+double SolveSession::MillisecondsToStop(int refreshRate) {
+  double milliseconds = 0;
+  InSolveWindow(refreshRate, [&](QWidget& solve) {
+    QPushButton& button = StartStop(solve);
+    QEvent* const press = MouseEvent(button, QEvent::MouseButtonPress);
+    QEvent* const release = MouseEvent(button, QEvent::MouseButtonRelease);
+    Clock::time_point clicked;
+    std::thread player([&] {
+      std::this_thread::sleep_for(std::chrono::milliseconds(50));
+      clicked = Clock::now();
+      QCoreApplication::postEvent(&button, press);
+      QCoreApplication::postEvent(&button, release);
+    });
+    button.click();
+    milliseconds = std::chrono::duration<double, std::milli>(Clock::now() - clicked).count();
+    player.join();
+  });
+  return milliseconds;
+}
+
+MemoryReport SolveSession::MemoryOverAMinute(int refreshRate) {
+  MemoryReport report;
+  InSolveWindow(refreshRate, [&](QWidget& solve) {
+    QTimer::singleShot(5'000, &solve, [&] { report.early = ResidentKilobytes(); });
+    QTimer::singleShot(60'000, &solve, [&] {
+      report.late = ResidentKilobytes();
+      StartStop(solve).click();
+    });
+    StartStop(solve).click();
+  });
+  return report;
+}
