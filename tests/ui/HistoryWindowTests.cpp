@@ -57,6 +57,14 @@ TEST_F(MoveHistory, GivesTheClockBack) {
   EXPECT_FALSE(Window().IsClockEnabled());
 }
 
+TEST_F(MoveHistory, ClosesWhenEnterPressesItsButton) {
+  OpenGame(3);
+  Read("mnuViewHistory", [](frmHistory& history, QListWidget&) {
+    QTest::keyClick(&Child<QAbstractButton>(history, "cmdClose"), Qt::Key_Enter);
+    EXPECT_FALSE(history.isVisible());
+  });
+}
+
 TEST_F(MoveHistory, OpensItsOptionsBelowTheButton) {
   OpenGame(3);
   Read("mnuViewHistory", [](frmHistory& history, QListWidget&) {

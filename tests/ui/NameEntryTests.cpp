@@ -143,6 +143,16 @@ TEST_F(NameEntry, EndsWithEnter) {
   });
 }
 
+TEST_F(NameEntry, LeavesTheKeyboardOnClose) {
+  Open();
+  SubmitAGame([](frmScores& scores) {
+    TypeName(scores, "Ann");
+    QTest::keyClick(&BoxOf(scores), Qt::Key_Return);
+    EXPECT_EQ(scores.focusWidget()->objectName(), "cmdClose");
+    Press(scores, "cmdClose");
+  });
+}
+
 TEST_F(NameEntry, RefusesTheTextItBeganWith) {
   Open();
   SubmitAGame([this](frmScores& scores) {

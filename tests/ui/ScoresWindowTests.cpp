@@ -216,6 +216,17 @@ TEST_F(ScoresWindow, ClosesOnEscape) {
   EXPECT_TRUE(AllVisitsMade());
 }
 
+TEST_F(ScoresWindow, ClosesOnEnter) {
+  Open();
+  WhenNextModalOpens([](QWidget& window) {
+    QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+    EXPECT_FALSE(window.isVisible());
+    window.close();
+  });
+  Choose("mnuViewHighScores");
+  EXPECT_TRUE(AllVisitsMade());
+}
+
 TEST_F(ScoresWindow, OpensWithoutItsPicture) {
   Open("[Settings]\r\nScores Image=nowhere.gif\r\n");
   LookAtList("mnuViewHighScores", [](frmScores& scores) { EXPECT_TRUE(scores.isVisible()); });

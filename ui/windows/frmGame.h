@@ -12,7 +12,7 @@
 #include "core/Game.h"
 #include "ui/commands/CommandContext.h"
 #include "ui/commands/MainWindow.h"
-#include "ui/support/ButtonLetters.h"
+#include "ui/support/ButtonKeys.h"
 #include "ui/support/FocusReturn.h"
 #include "ui/support/HalfSecondTimer.h"
 #include "ui/support/HelpKey.h"
@@ -133,7 +133,7 @@ class frmGame : public QMainWindow, public MainWindow {
   CommandContext context_;
   std::unique_ptr<frmHelp> help_;  // made on first use
   HelpKey helpKey_;
-  ButtonLetters buttonLetters_;
+  ButtonKeys buttonKeys_;
   FocusReturn focusReturn_;
   LateAltKey lateAltKey_;
   int works_ = 0;

@@ -222,6 +222,7 @@ bool frmScores::txtHighScore_Validate() {
   const QString name = txtHighScore_->text().trimmed();
   if (!name.isEmpty() && name != NoName) {
     txtHighScore_->hide();
+    cmdClose_->setFocus();
     return true;
   }
   context_.window.Tell("Aren't you forgetting something?", "Please enter your name.",

@@ -1,0 +1,39 @@
+#include "ui/support/ButtonKeys.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QShortcutEvent>
+
+namespace {
+
+// Of several buttons with one letter the toolkit chooses by itself.
+bool IsLetterOf(const QAbstractButton& button, const QEvent& event) {
+  if (event.type() != QEvent::Shortcut) return false;
+  const auto& shortcut = static_cast<const QShortcutEvent&>(event);
+  return !shortcut.isAmbiguous() && shortcut.key() == button.shortcut();
+}
+
+// A key that is held down presses only one button.
+bool IsEnterOn(const QAbstractButton& button, const QEvent& event) {
+  if (event.type() != QEvent::KeyPress || qobject_cast<const QPushButton*>(&button) == nullptr) {
+    return false;
+  }
+  const auto& press = static_cast<const QKeyEvent&>(event);
+  return (press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter) && !press.isAutoRepeat();
+}
+
+}  // namespace
+
+ButtonKeys::ButtonKeys() {
+  QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool ButtonKeys::eventFilter(QObject* watched, QEvent* event) {
+  auto* button = qobject_cast<QAbstractButton*>(watched);
+  if (button == nullptr) return false;
+  if (!IsLetterOf(*button, *event) && !IsEnterOn(*button, *event)) return false;
+  if (button->isCheckable()) button->setFocus();
+  button->click();
+  return true;
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QObject>
+
+// A button that is chosen by the letter of its caption acts at once. The toolkit shows it going
+// down and up first, and a quick player's next keys would come before it acts. Enter presses the
+// button that has the keyboard; the toolkit leaves that to dialogs with a default button.
+class ButtonKeys : public QObject {
+ public:
+  ButtonKeys();
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+};
