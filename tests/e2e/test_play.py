@@ -98,6 +98,14 @@ class Play(unittest.TestCase):
         self.assertIn("Top=1500", lines)
         self.assertIn("Height=7500", lines)
 
+    def test_a_window_that_would_fill_the_memory_is_made_smaller(self):
+        settings = self.program.parent / "GallopadeNova.ini"
+        settings.write_text("[Settings]\nHeight=480000\n")
+        self.start()
+        self.assertLess(self.desktop.geometry(self.game)[3], 2000)
+        self.desktop.close(self.game)
+        wait_for(self.ended, "the program to end")
+
     def test_a_window_without_a_stored_place_is_in_the_middle(self):
         self.start()
         self.desktop.close(self.game)

@@ -34,9 +34,10 @@ int MinimumHeight() {
 
 // The size that the window of this height would give itself as soon as it is shown, whatever its
 // width. Asking for it only then would also move the window: its own corner would be put where that
-// of its frame belongs.
-QSize SizeOfHeight(int height, int menuHeight) {
+// of its frame belongs. A window that is many times higher than the desktop would fill the memory.
+QSize SizeOfHeight(int height, int menuHeight, int desktopHeight) {
   if (height - menuHeight < MinimumHeight()) height = MinimumHeight();
+  height = std::min(height, std::max(2 * desktopHeight, MinimumHeight()));
   return {std::max(height - menuHeight, 1), height};
 }
 
@@ -68,8 +69,8 @@ void frmGame::ApplyPlacement(const WindowPlacement& placement) {
   const int designedSide =
       std::min({static_cast<int>(PixelsFromTwips(DesignedInnerSideTwips)), available.width(),
                 available.height() - menuHeight - DecorationAllowance});
-  const QSize size =
-      SizeOfHeight(PixelFrom(placement.Height, designedSide + menuHeight), menuHeight);
+  const QSize size = SizeOfHeight(PixelFrom(placement.Height, designedSide + menuHeight),
+                                  menuHeight, screen()->virtualSize().height());
   const QPoint centred(available.left() + (available.width() - size.width()) / 2,
                        available.top() + (available.height() - size.height()) / 2);
   placedBounds_ = BroughtOntoScreen(
