@@ -28,7 +28,7 @@ FolderLock::~FolderLock() {
 bool FolderLock::Take() {
   const auto end = std::chrono::steady_clock::now() + LongestWait;
   while (flock(descriptor_, LOCK_EX | LOCK_NB) != 0) {
-    if (errno != EWOULDBLOCK) return true;
+    if (errno != EWOULDBLOCK && errno != EINTR) return true;
     if (std::chrono::steady_clock::now() > end) return false;
     std::this_thread::sleep_for(Pause);
   }

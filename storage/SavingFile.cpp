@@ -3,10 +3,12 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDir>
+#include <QRegularExpression>
 
 namespace {
 
@@ -22,10 +24,24 @@ auto Persist(const Call& call) {
   return result;
 }
 
+// Sets only what differs, since some disks know no permissions but their own.
 bool CopyMode(const QByteArray& from, int descriptor) {
-  struct stat status {};
-  if (Persist([&] { return stat(from.constData(), &status); }) != 0) return errno == ENOENT;
-  return Persist([&] { return fchmod(descriptor, status.st_mode & PermissionBits); }) == 0;
+  struct stat old {};
+  if (Persist([&] { return stat(from.constData(), &old); }) != 0) return errno == ENOENT;
+  struct stat now {};
+  if (Persist([&] { return fstat(descriptor, &now); }) != 0) return false;
+  if (old.st_mode == now.st_mode) return true;
+  return Persist([&] { return fchmod(descriptor, old.st_mode & PermissionBits); }) == 0;
+}
+
+// A saving file is locked by its process for as long as that lives. The name may be a symbolic link
+// by now, or anything else that is not ours to open.
+bool IsLeft(const QByteArray& name) {
+  const int descriptor = open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+  if (descriptor < 0) return false;
+  const bool isFree = flock(descriptor, LOCK_EX | LOCK_NB) == 0;
+  close(descriptor);
+  return isFree;
 }
 
 }  // namespace
@@ -35,7 +51,10 @@ SavingFile::SavingFile(const QString& folder)
       descriptor_(Persist([this] {
         return open(name_.constData(), O_CREAT | O_TRUNC | O_WRONLY | O_NOFOLLOW | O_CLOEXEC,
                     ModeOfNewFiles);
-      })) {}
+      })) {
+  // Without a lock, as on disks that know none, the folder's own lock guards the file alone.
+  if (IsOpen()) flock(descriptor_, LOCK_EX | LOCK_NB);
+}
 
 SavingFile::~SavingFile() {
   if (descriptor_ < 0) return;
@@ -65,7 +84,12 @@ bool SavingFile::TakePlaceOf(const QString& pathName) {
 }
 
 void RemoveLeftSavingFiles(const QString& folder) {
-  QDir place(folder);
-  const QStringList left = place.entryList({Prefix + "*"}, QDir::Files | QDir::Hidden);
-  for (const QString& name : left) place.remove(name);
+  static const QRegularExpression ours("^" + QRegularExpression::escape(Prefix) + "[0-9]+$");
+  const QDir place(folder);
+  const QStringList names =
+      place.entryList({Prefix + "*"}, QDir::Files | QDir::Hidden).filter(ours);
+  for (const QString& name : names) {
+    const QByteArray file = QFile::encodeName(place.filePath(name));
+    if (IsLeft(file)) unlink(file.constData());
+  }
 }

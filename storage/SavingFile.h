@@ -23,6 +23,6 @@ class SavingFile {
   int descriptor_;
 };
 
-// Removes what killed processes left in a folder. Only for who knows that no other copy of the
-// program is saving there.
+// Removes what killed processes left in a folder, and nothing that a living one is saving. Only for
+// who has the folder locked.
 void RemoveLeftSavingFiles(const QString& folder);

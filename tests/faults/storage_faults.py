@@ -3,7 +3,8 @@
     storage_faults.py SAVER [--short]
 
 Whatever fails: the file is the old one or the new one, it is the new one if the saver says so, and
-after the next save nothing else lies in the folder.
+after the next save nothing else lies in the folder. The file is there, or is missing, or is behind
+a link; the short form has it there.
 """
 
 import itertools
@@ -29,18 +30,33 @@ CALLS = ("openat", "open", "creat", "read", "pread64", "write", "pwrite64", "fsy
          "readlink", "getdents64", "mmap")
 SHORT_CALLS = ("openat", "read", "write", "fsync", "rename", "fchmod", "flock", "getdents64",
                "access", "newfstatat", "statx")
+STARTS = ("there", "missing", "linked")
 ERRORS = ("ENOSPC", "EIO", "EACCES", "EINTR")
 
 
 class Fault:
-    def __init__(self, saver, folder, kind):
+    def __init__(self, saver, folder, kind, start):
         self.saver = saver
         self.path = folder / "file"
         self.kind = kind
-        self.path.write_bytes(OLD[kind])
+        self.old = OLD[kind] if start != "missing" else None
+        if start == "linked":
+            (folder / "target").touch()
+            self.path.symlink_to("target")
+        self.start_anew()
         self.save()
         self.new = self.path.read_bytes()
-        assert self.new != OLD[kind]
+        self.names = self.names_there()
+        assert self.new != self.old
+
+    def start_anew(self):
+        if self.old is None:
+            self.path.unlink(missing_ok=True)
+        else:
+            self.path.write_bytes(self.old)
+
+    def names_there(self):
+        return sorted((path.name, path.is_symlink()) for path in self.path.parent.iterdir())
 
     def save(self, *tracer):
         return subprocess.run([*tracer, self.saver, self.kind, str(self.path)],
@@ -56,21 +72,20 @@ class Fault:
 
     def fails(self, call, error, number):
         """What is wrong after the call has failed; None when all is well."""
-        self.path.write_bytes(OLD[self.kind])
+        self.start_anew()
         told = self.save("strace", "-f", "-qq", "-o", "/dev/null", "-e", f"trace={call}",
                          "-e", f"inject={call}:error={error}:when={number}")
         content = self.path.read_bytes() if self.path.exists() else None
-        if content not in (OLD[self.kind], self.new):
+        if content not in (self.old, self.new):
             return "damaged"
         if told == SAVED and content != self.new:
             return "told saved"
         if told == NOT_SAVED and content == self.new:
             return "told not saved"
-        self.path.write_bytes(OLD[self.kind])
+        self.start_anew()
         if self.save() != SAVED or self.path.read_bytes() != self.new:
             return "not to be saved again"
-        others = [path.name for path in self.path.parent.iterdir() if path != self.path]
-        return f"{others} left" if others else None
+        return f"{self.names_there()} left" if self.names_there() != self.names else None
 
 
 def may_trace():
@@ -85,9 +100,9 @@ def main():
         print("skipped: strace is not installed, or may not trace here")
         return SKIPPED
     runs, found = 0, []
-    for kind in OLD:
+    for kind, start in itertools.product(OLD, STARTS[:1] if short else STARTS):
         with tempfile.TemporaryDirectory() as folder:
-            fault = Fault(saver, Path(folder), kind)
+            fault = Fault(saver, Path(folder), kind, start)
             calls = {call: count for call, count in fault.calls().items()
                      if not short or call in SHORT_CALLS}
             for (call, count), error in itertools.product(calls.items(), ERRORS):
@@ -99,7 +114,7 @@ def main():
                     runs += 1
                     wrong = fault.fails(call, error, number)
                     if wrong:
-                        found.append(f"{kind}: {call} {number} of {count}, {error}: {wrong}")
+                        found.append(f"{kind}, {start}: {call} {number} of {count}, {error}: {wrong}")
     print("\n".join(found + [f"{runs} failing calls, {len(found)} findings"]))
     return 1 if found else 0
 

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include "storage/FileWriter.h"
+#include "storage/SavingFile.h"
 #include "tests/storage/TestFiles.h"
 
 class WritingAFile : public FolderTest {
@@ -58,11 +59,21 @@ TEST_F(WritingAFile, LeavesWhatAnotherCopyIsSaving) {
   EXPECT_EQ(ContentOf(PathOf(".gallopade-saving-1")), "half");
 }
 
+TEST_F(WritingAFile, LeavesWhatACopyIsSavingThatDidNotWaitForTheFolder) {
+  SavingFile other(Folder());
+  ASSERT_TRUE(other.Write("half"));
+  RemoveLeftSavingFiles(Folder());
+  EXPECT_TRUE(other.TakePlaceOf(PathOf("x")));
+  EXPECT_EQ(ContentOf(PathOf("x")), "half");
+}
+
 TEST_F(WritingAFile, LeavesThePlayersOwnFilesAlone) {
   Put("x.backup", "mine");
-  Put(".hidden", "mine too");
+  Put(".gallopade-saving-notes", "mine too");
+  Put(".gallopade-saving-1.txt", "and mine");
   EXPECT_EQ(WriteFile(PathOf("x"), "new"), std::nullopt);
-  EXPECT_EQ(Names(), QStringList({".hidden", "x", "x.backup"}));
+  EXPECT_EQ(Names(),
+            QStringList({".gallopade-saving-1.txt", ".gallopade-saving-notes", "x", "x.backup"}));
 }
 
 TEST_F(WritingAFile, KeepsItsPermissions) {

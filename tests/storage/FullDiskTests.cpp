@@ -7,16 +7,18 @@
 namespace {
 
 constexpr int DiskKilobytes = 64;
+constexpr int PageBytes = 4096;
 
 }  // namespace
 
 class OnAFullDisk : public FolderTest {
  protected:
   // Runs the body where not one more byte can be written, beside a file "x" with the text "old".
-  void Run(const std::function<void()>& body) const {
+  void Run(const std::function<void()>& body, int freePages = 0) const {
     const Apart outcome = RunApart(MountSmallDisk(Folder(), DiskKilobytes), [&] {
       Put("x", "old");
       Fill();
+      Free(freePages);
       body();
     });
     if (outcome == Apart::NotAllowed) GTEST_SKIP() << "mounting is not allowed here";
@@ -29,6 +31,10 @@ class OnAFullDisk : public FolderTest {
     EXPECT_TRUE(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     while (filler.write(QByteArray(1024, 'f')) > 0) {
     }
+  }
+  void Free(int pages) const {
+    QFile filler(PathOf("filler"));
+    EXPECT_TRUE(filler.resize(filler.size() - qint64{pages} * PageBytes));
   }
 };
 
@@ -81,3 +87,45 @@ TEST_F(OnAFullDisk, AChessboardStaysAsItWas) {
     EXPECT_EQ(ContentOf(PathOf("x")), "old");
   });
 }
+
+class OnANearlyFullDisk : public OnAFullDisk, public testing::WithParamInterface<int> {
+ protected:
+  // Whatever room there is, the file changes if the player is told so, and only then.
+  void Save(const std::function<bool(const QString&)>& save) const {
+    Run(
+        [&] {
+          const bool isTold = save(PathOf("x"));
+          EXPECT_EQ(ContentOf(PathOf("x")) != "old", isTold);
+          EXPECT_EQ(Names(), QStringList({"filler", "x"}));
+          EXPECT_TRUE(QFile::remove(PathOf("filler")));
+          EXPECT_TRUE(save(PathOf("x")));
+          EXPECT_EQ(Names(), QStringList({"x"}));
+        },
+        GetParam());
+  }
+};
+
+TEST_P(OnANearlyFullDisk, AGameIsSavedOrTold) {
+  Save([](const QString& path) { return !WriteFile(path, FormatGame(GameState())); });
+}
+
+TEST_P(OnANearlyFullDisk, SettingsAreSavedOrTold) {
+  Save([](const QString& path) {
+    QString error;
+    return clsIniFile().WriteIniFileValue(path, "Settings", "State", "2", error);
+  });
+}
+
+TEST_P(OnANearlyFullDisk, AScoreIsSavedOrTold) {
+  Save([](const QString& path) { return !SaveScore(path, {40, 100, true}, "Ann"); });
+}
+
+TEST_P(OnANearlyFullDisk, AChessboardIsSavedOrTold) {
+  Save([](const QString& path) { return !SaveChessboard(path, Settings()); });
+}
+
+TEST_P(OnANearlyFullDisk, AnExportOfThreePagesIsSavedOrTold) {
+  Save([](const QString& path) { return !WriteFile(path, QByteArray(3 * PageBytes, 'm')); });
+}
+
+INSTANTIATE_TEST_SUITE_P(FreePages, OnANearlyFullDisk, testing::Range(0, 4));
