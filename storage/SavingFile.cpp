@@ -8,7 +8,6 @@
 #include <unistd.h>
 
 #include <QDir>
-#include <QRegularExpression>
 
 namespace {
 
@@ -32,6 +31,12 @@ bool CopyMode(const QByteArray& from, int descriptor) {
   if (Persist([&] { return fstat(descriptor, &now); }) != 0) return false;
   if (old.st_mode == now.st_mode) return true;
   return Persist([&] { return fchmod(descriptor, old.st_mode & PermissionBits); }) == 0;
+}
+
+bool IsOurs(const QString& name) {
+  bool endsInNumber = false;
+  name.mid(Prefix.size()).toUInt(&endsInNumber);
+  return endsInNumber;
 }
 
 // A saving file is locked by its process for as long as that lives. The name may be a symbolic link
@@ -84,12 +89,10 @@ bool SavingFile::TakePlaceOf(const QString& pathName) {
 }
 
 void RemoveLeftSavingFiles(const QString& folder) {
-  static const QRegularExpression ours("^" + QRegularExpression::escape(Prefix) + "[0-9]+$");
   const QDir place(folder);
-  const QStringList names =
-      place.entryList({Prefix + "*"}, QDir::Files | QDir::Hidden).filter(ours);
+  const QStringList names = place.entryList({Prefix + "*"}, QDir::Files | QDir::Hidden);
   for (const QString& name : names) {
     const QByteArray file = QFile::encodeName(place.filePath(name));
-    if (IsLeft(file)) unlink(file.constData());
+    if (IsOurs(name) && IsLeft(file)) unlink(file.constData());
   }
 }
