@@ -16,6 +16,7 @@
 #include "ui/support/FocusReturn.h"
 #include "ui/support/HalfSecondTimer.h"
 #include "ui/support/HelpKey.h"
+#include "ui/support/InputWatch.h"
 #include "ui/support/LateAltKey.h"
 #include "ui/support/QtDialogs.h"
 #include "ui/windows/GameMenu.h"
@@ -42,6 +43,7 @@ class frmGame : public QMainWindow, public MainWindow {
   bool PlayerMayAct() const { return works_ == 0 && !performing_; }
   // Does what the player asks for; false, and nothing done, when he may not act.
   bool Perform(const std::function<void()>& deed);
+  bool IsHandActing() const { return inputWatch_.IsHandActing(); }
   const CommandContext& Context() const { return context_; }
   const GameState& State() const { return state_; }
   BoardView& Board() { return *board_; }
@@ -135,6 +137,7 @@ class frmGame : public QMainWindow, public MainWindow {
   HelpKey helpKey_;
   ButtonKeys buttonKeys_;
   FocusReturn focusReturn_;
+  InputWatch inputWatch_;
   LateAltKey lateAltKey_;
   int works_ = 0;
   bool performing_ = false;
