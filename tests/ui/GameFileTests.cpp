@@ -161,6 +161,15 @@ TEST_F(GameFiles, AreOpenedToTheEndWhenTheWindowIsAboutToClose) {
   EXPECT_EQ(std::count(window.log.begin(), window.log.end(), "DoEvents"), 1);
 }
 
+TEST_F(GameFiles, AreNoReplayWhenTheWindowIsAboutToClose) {
+  Begin();
+  window.SetMenuEnabled(MenuEntry::mnuFileSaveReplay, true);
+  window.onDoEvents = [&] { window.closeRequested = true; };
+  Open(DataFile("beverley-first-40.knight"), true);
+  EXPECT_FALSE(window.IsMenuEnabled(MenuEntry::mnuFileSaveReplay));
+  EXPECT_TRUE(window.IsClockEnabled());
+}
+
 TEST_F(GameFiles, NeitherStartTheClockNorEndTheGameWhileTheyAreRead) {
   Begin();
   window.onEndGame = [](const GameOverReport&) { ADD_FAILURE() << "the game was ended"; };

@@ -61,17 +61,18 @@ bool WantsReplay(const CommandContext& context, bool replaying, bool over) {
                             "This game is over. Do you want to watch a replay of it instead?");
 }
 
+// Who asked to close the window while the game was opened is shown no replay.
 void GoOnWithLoadedGame(const CommandContext& context, bool replaying) {
+  const bool isClosing = context.window.IsCloseRequested();
   const bool over = context.game.CheckIfGameOver(context.state.KnightX, context.state.KnightY);
   if (over) {
     context.state.NoScoreGame = true;
     context.game.DisablePlayOn();
-  } else if (!replaying) {
+  } else if (!replaying || isClosing) {
     context.window.SetMenuEnabled(MenuEntry::mnuFileSaveReplay, false);
     context.window.EnableClock(true);
   }
-  if (context.window.IsCloseRequested()) return;
-  if (WantsReplay(context, replaying, over)) mnuViewReplay_Click(context);
+  if (!isClosing && WantsReplay(context, replaying, over)) mnuViewReplay_Click(context);
 }
 
 }  // namespace
