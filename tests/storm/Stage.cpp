@@ -80,6 +80,7 @@ void Stage::Settle(int milliseconds) {
 // Asked for anew before each look, since a step may wait in a window of its own.
 void Stage::LookOut() {
   QTimer::singleShot(1, &lookOut_, [this] {
+    if (!looking_) return;
     LookOut();
     LookForWork();
     Look();

@@ -40,7 +40,9 @@ class Stage {
   void WhenAtWork(std::function<void()> step) { whenAtWork_ = std::move(step); }
   // In the midst of whatever goes on then.
   void After(int milliseconds, std::function<void()> step);
-  // Lets time pass until everything has been left.
+  // No window is looked out for any more, so that the program is alone with its own timers.
+  void LookAway() { looking_ = false; }
+  // Lets time pass.
   void Settle(int milliseconds);
 
   void Choose(const char* menuEntry);
@@ -84,6 +86,7 @@ class Stage {
   int turnsAtWork_ = 0;
   bool momentHasCome_ = false;
   bool hadToLeave_ = false;
+  bool looking_ = true;
   QMessageBox::StandardButton says_ = QMessageBox::No;
 };
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QPixmapCache>
 #include <QScopedValueRollback>
 #include <QTimer>
 
@@ -17,6 +18,8 @@
 namespace {
 
 constexpr int CloseRetryMilliseconds = 100;
+// Every dialog draws its icons anew, and the toolkit would keep ten megabytes of them.
+constexpr int PixmapCacheKilobytes = 1024;
 
 }  // namespace
 
@@ -30,6 +33,7 @@ frmGame::frmGame(Globals& globals)
       context_{game_, state_, *this, dialogs_, windows_, globals},
       helpKey_([this](const QString& topic) { GetHelp(topic); }) {
   AccessibleDialog::Install();
+  QPixmapCache::setCacheLimit(PixmapCacheKilobytes);
   setObjectName("frmGame");
   board_ = new BoardView(state_, this);
   setCentralWidget(board_);
