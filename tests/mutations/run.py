@@ -36,7 +36,7 @@ MUTATIONS = (
     ("storage/ScoreLists.cpp", ".time > game.totalTime", ".time >= game.totalTime", "storage"),
     ("storage/GameFile.cpp", "line->endsWith('-')", "line->startsWith('-')", "storage"),
     ("storage/GameFile.cpp", "if (x != -1) file.failure", "if (x != -2) file.failure", "storage"),
-    ("storage/FileWriter.cpp", "if (lock.IsHeld()) Remove", "Remove", "storage"),
+    ("storage/FileWriter.cpp", "if (lock.IsHeld()) Remove", "if (!lock.IsHeld()) Remove", "storage"),
     ("storage/MoveListExport.cpp", '".rtf"', '".RTF"', "storage"),
 )
 

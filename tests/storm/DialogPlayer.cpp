@@ -175,6 +175,11 @@ void ChooseBehindDialog(const Hand& hand) {
   }
 }
 
+void CloseBehindDialog(const Hand& hand) {
+  hand.journal.Note("close the main window behind the dialog");
+  if (hand.window.close()) hand.journal.Fail("the main window has closed behind a dialog");
+}
+
 void UseDialog(const Hand& hand, QWidget& dialog) {
   const int what = hand.chance.Below(100);
   if (what < 65) {
@@ -183,6 +188,8 @@ void UseDialog(const Hand& hand, QWidget& dialog) {
     PressAnyKey(hand, dialog);
   } else if (what < 83) {
     ChooseBehindDialog(hand);
+  } else if (what < 84) {
+    CloseBehindDialog(hand);
   } else if (what < 98) {
     ClickAnything(hand, dialog);
   } else {

@@ -22,4 +22,9 @@ struct MomentRow {
   const char* settings = "";
 };
 
+// The idle moments come first.
 const std::vector<MomentRow>& Moments();
+
+// Its two parts.
+const std::vector<MomentRow>& GameMoments();
+const std::vector<MomentRow>& DialogMoments();
