@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QTest>
 #include <QThreadPool>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "tests/storm/Stage.h"
@@ -80,7 +81,8 @@ class Round {
   }
 
   void Replay() {
-    stage_.Next([this](QWidget& replay) { stage_.After(40'000, [&replay] { replay.close(); }); });
+    // Nothing comes of it when the replay has been closed by then.
+    stage_.Next([](QWidget& replay) { QTimer::singleShot(40'000, &replay, &QWidget::close); });
     stage_.Choose("mnuViewReplay");
   }
 
