@@ -1,3 +1,4 @@
+#include "core/NumberText.h"
 #include "tests/support/GameTest.h"
 
 namespace {
@@ -22,6 +23,11 @@ TEST_F(Caption, ShowsWhatThePlayerWantsToSee) {
   EXPECT_EQ(With(false, true), "Gallopade Nova - 0:03:27.5");
   EXPECT_EQ(With(true, false), "Gallopade Nova: 12");
   EXPECT_EQ(With(false, false), "Gallopade Nova");
+}
+
+TEST(NumberInAText, HasABlankOrASignBeforeIt) {
+  EXPECT_EQ(NumberText(12), " 12");
+  EXPECT_EQ(NumberText(-12), "-12");
 }
 
 TEST_F(Caption, ShowsZeroMovesBeforeTheFirstSquare) {

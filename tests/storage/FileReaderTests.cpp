@@ -61,3 +61,7 @@ TEST_F(ReadingAFile, FailsWithoutThePermission) {
   });
   EXPECT_EQ(outcome, Apart::Passed);
 }
+
+TEST_F(ReadingAFile, FailsWhenItsBytesCannotBeHad) {
+  EXPECT_EQ(ReadFile("/proc/self/mem", Plenty).error, ProgramError::DeviceIo);
+}

@@ -67,6 +67,20 @@ TEST_F(WritingAFile, LeavesWhatACopyIsSavingThatDidNotWaitForTheFolder) {
   EXPECT_EQ(ContentOf(PathOf("x")), "half");
 }
 
+TEST_F(WritingAFile, LeavesNothingWhereItFindsNoPlace) {
+  ASSERT_TRUE(QDir(Folder()).mkdir("x"));
+  {
+    SavingFile file(Folder());
+    ASSERT_TRUE(file.Write("new"));
+    EXPECT_FALSE(file.TakePlaceOf(PathOf("x")));
+  }
+  EXPECT_EQ(Names(), QStringList{"x"});
+}
+
+TEST_F(WritingAFile, BeginsNowhereWithoutAFolder) {
+  EXPECT_FALSE(SavingFile(PathOf("no folder")).IsOpen());
+}
+
 TEST_F(WritingAFile, LeavesThePlayersOwnFilesAlone) {
   Put("x.backup", "mine");
   Put(".gallopade-saving-notes", "mine too");

@@ -103,6 +103,11 @@ TEST_F(TheIniFile, IsNotMadeForNoValues) {
   EXPECT_EQ(Names(), QStringList());
 }
 
+TEST_F(TheIniFile, MustBeAFileEvenForNoValues) {
+  QString error;
+  EXPECT_FALSE(iniFile_.WriteIniFileValues(Folder(), {}, error));
+}
+
 TEST_F(TheIniFile, IsRefusedWhenItIsHugeAndLeftAsItIs) {
   QFile huge(Put("x.ini", "[S]\nKey=1\n"));
   ASSERT_TRUE(huge.resize(100LL * 1024 * 1024));

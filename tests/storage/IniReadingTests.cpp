@@ -47,6 +47,10 @@ TEST(IniValue, LosesTheBlanksAroundIt) {
   EXPECT_EQ(Value(" [ S ] \n \tKey \t= \t1 2 \t\n"), "1 2");
 }
 
+TEST(IniValue, LosesEveryKindOfBlank) {
+  EXPECT_EQ(Value("[S]\n\v\fKey\t=\f1\v\t \n"), "1");
+}
+
 TEST(IniValue, LosesOnePairOfEqualQuotes) {
   EXPECT_EQ(Value("[S]\nKey=\" a \"\n"), " a ");
   EXPECT_EQ(Value("[S]\nKey='a'\n"), "a");

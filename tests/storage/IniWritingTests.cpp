@@ -54,6 +54,10 @@ TEST(WritingIniValues, UsesTheLineEndThatTheTextUses) {
   EXPECT_EQ(Written("[T]\r\n\r\n\n", "x"), "[T]\r\n\r\n\n[S]\r\nKey=x\r\n");
 }
 
+TEST(WritingIniValues, AddsToATextWhoseLinesEndInReturns) {
+  EXPECT_EQ(Written("[S]\rOther=1\r", "1"), "[S]\rOther=1\rKey=1\r\n");
+}
+
 TEST(WritingIniValues, KeepsAByteOrderMark) {
   EXPECT_EQ(Written("\xEF\xBB\xBF", "x"), "\xEF\xBB\xBF[S]\r\nKey=x\r\n");
   EXPECT_EQ(Written("\xEF\xBB\xBF[S]\r\n", "x"), "\xEF\xBB\xBF[S]\r\nKey=x\r\n");
