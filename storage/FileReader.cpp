@@ -1,5 +1,6 @@
 #include "storage/FileReader.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <sys/stat.h>
 
@@ -19,6 +20,18 @@ std::optional<ProgramError> WhyNotReadable(const QString& pathName) {
   return std::nullopt;
 }
 
+// A part at a time: room for the most there may be is costly to get, and most files are small.
+QByteArray ReadUpTo(QFile& file, qint64 maximumBytes) {
+  constexpr qint64 Part = 65536;
+  QByteArray bytes;
+  QByteArray part;
+  do {
+    part = file.read(std::min<qint64>(Part, maximumBytes - bytes.size()));
+    bytes += part;
+  } while (!part.isEmpty());
+  return bytes;
+}
+
 }  // namespace
 
 FileContent ReadFile(const QString& pathName, qint64 maximumBytes) {
@@ -28,7 +41,7 @@ FileContent ReadFile(const QString& pathName, qint64 maximumBytes) {
   if (!file.open(QIODevice::ReadOnly)) {
     return {{}, ErrorFromSystem(errno, ProgramError::FileNotFound)};
   }
-  QByteArray bytes = file.read(maximumBytes);
+  QByteArray bytes = ReadUpTo(file, maximumBytes);
   if (file.error() != QFileDevice::NoError) return {{}, ProgramError::DeviceIo};
   return {bytes};
 }

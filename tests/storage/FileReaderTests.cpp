@@ -20,8 +20,14 @@ TEST_F(ReadingAFile, GivesItsBytes) {
   EXPECT_EQ(content.error, std::nullopt);
 }
 
+TEST_F(ReadingAFile, GivesEveryByteOfALongOne) {
+  const QByteArray bytes = QByteArray(100000, 'a') + QByteArray(100000, 'b');
+  EXPECT_EQ(ReadFile(Put("x", bytes), 1000000).bytes, bytes);
+}
+
 TEST_F(ReadingAFile, StopsAtTheGivenLength) {
   EXPECT_EQ(ReadFile(Put("x", "abcdef"), 3).bytes, "abc");
+  EXPECT_EQ(ReadFile(Put("y", QByteArray(100000, 'a')), 70000).bytes.size(), 70000);
 }
 
 TEST_F(ReadingAFile, FollowsASymbolicLink) {
