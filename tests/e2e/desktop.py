@@ -63,10 +63,8 @@ class Desktop:
 
     def __exit__(self, *_):
         for process in reversed(self.processes):
-            try:
+            if process.returncode is None:  # otherwise its number may be another process's by now
                 os.killpg(process.pid, signal.SIGKILL)
-            except ProcessLookupError:
-                pass
             process.wait()
             if process.stdout:
                 process.stdout.close()
