@@ -15,7 +15,7 @@
 // the program directory.
 struct Settings : GameOptions, BoardLook {
   // Where file dialogs begin: those of games and move lists, and those of pictures and chessboards.
-  // Both end in "/".
+  // Both end in "/", unless a file says otherwise.
   QString PreviousDirectory;
   QString PreferencesPreviousDirectory;
   QString ScoresImage = "Scores.gif";

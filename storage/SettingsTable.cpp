@@ -16,8 +16,8 @@ constexpr const char* Chessboard = "Chessboard";
 constexpr const char* Highlight = "Highlight";
 
 constexpr std::array<SettingRow, 28> Table = {{
-    {General, "Previous Directory", Directory, &Settings::PreviousDirectory},
-    {General, "Preferences Previous Directory", Directory, &Settings::PreferencesPreviousDirectory},
+    {General, "Previous Directory", Text, &Settings::PreviousDirectory},
+    {General, "Preferences Previous Directory", Text, &Settings::PreferencesPreviousDirectory},
     {General, "Scores Image", Text, &Settings::ScoresImage},
     {General, "About Image", Text, &Settings::AboutImage},
     {General, "Show Time", NumberBoolean, &Settings::ShowTime},
@@ -46,19 +46,13 @@ constexpr std::array<SettingRow, 28> Table = {{
     {Highlight, "Highlighting Method", Number, &Settings::HighlightingMethod},
 }};
 
-QString AsDirectory(const QString& text) {
-  return text.endsWith('/') ? text : text + '/';
-}
-
 // One function for each type that a field can have.
 struct FieldReader {
   const SettingRow& row;
   const QString& text;
   Settings& settings;
 
-  void operator()(QString Settings::*field) const {
-    settings.*field = row.kind == Directory ? AsDirectory(text) : text;
-  }
+  void operator()(QString Settings::*field) const { settings.*field = text; }
   void operator()(bool Settings::*field) const {
     settings.*field = row.kind == ExactBoolean ? text == "1" : LenientNumber(text) != 0.0;
   }

@@ -10,7 +10,6 @@
 #include "storage/Settings.h"
 
 enum class SettingKind {
-  Directory,      // text; the program directory by default, ends in "/"
   Text,           // any text
   NumberBoolean,  // true for every number but 0
   ExactBoolean,   // true for the text "1" only

@@ -58,8 +58,8 @@ TEST_F(LoadedSettings, BeginInTheProgramDirectory) {
   EXPECT_EQ(Load("Settings", "Previous Directory=\n").PreviousDirectory, "/games/nova/");
 }
 
-TEST_F(LoadedSettings, GiveDirectoriesTheirLastSeparator) {
-  EXPECT_EQ(Load("Settings", "Previous Directory=/a b\n").PreviousDirectory, "/a b/");
+TEST_F(LoadedSettings, TakeDirectoriesAsTheyStand) {
+  EXPECT_EQ(Load("Settings", "Previous Directory=/a b\n").PreviousDirectory, "/a b");
   EXPECT_EQ(Load("Settings", "Previous Directory=/a b/\n").PreviousDirectory, "/a b/");
 }
 

@@ -27,6 +27,11 @@ void KeepLinesWhole(QMessageBox& box) {
   label->setMinimumWidth(std::min(widest + 1, box.screen()->availableSize().width() - BoxMargin));
 }
 
+// A directory that is gone and has no separator at its end would be taken for the name of a file.
+QString AsDirectory(const QString& text) {
+  return text.endsWith('/') ? text : text + '/';
+}
+
 }  // namespace
 
 QWidget* QtDialogs::Parent() const {
@@ -36,7 +41,8 @@ QWidget* QtDialogs::Parent() const {
 
 QString QtDialogs::OpenFile(const FileQuestion& question) {
   FileIcons icons;
-  QFileDialog dialog(Parent(), QString(), question.directory, ToolkitNameFilters(question.filter));
+  QFileDialog dialog(Parent(), QString(), AsDirectory(question.directory),
+                     ToolkitNameFilters(question.filter));
   dialog.setIconProvider(&icons);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setFileMode(QFileDialog::ExistingFile);
@@ -45,7 +51,8 @@ QString QtDialogs::OpenFile(const FileQuestion& question) {
 
 QString QtDialogs::SaveFile(const FileQuestion& question) {
   FileIcons icons;
-  QFileDialog dialog(Parent(), QString(), question.directory, ToolkitNameFilters(question.filter));
+  QFileDialog dialog(Parent(), QString(), AsDirectory(question.directory),
+                     ToolkitNameFilters(question.filter));
   dialog.setIconProvider(&icons);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
