@@ -176,6 +176,13 @@ TEST_F(Looks, OfHighContrastKeepEveryStateThreeToOneApart) {
   }
 }
 
+TEST_F(Looks, FromAFileThatIsNotThereAreTheDefaults) {
+  Open("[Chessboard]\nLight Color=255\nUse Borders=1\n");
+  OpenLook("missing.chessboard");
+  EXPECT_EQ(InMemory().LightColor, Settings().LightColor);
+  EXPECT_TRUE(InMemory().UseBorders);
+}
+
 TEST_F(Looks, InTheDesktopsColorsFollowTheDesktop) {
   Open("[Chessboard]\nUse Images=0\n");
   const QPalette usual = QApplication::palette();

@@ -236,6 +236,15 @@ TEST_F(PreferencesWindow, ClearsAnImageThatCannotBeLoaded) {
   });
 }
 
+TEST_F(PreferencesWindow, ClearsAnImageThatIsNotThere) {
+  Open();
+  InPreferences([this](frmPreferences& window) {
+    ChooseFile(ProgramFile("missing.gif"));
+    Click(window, "cmdDark");
+    EXPECT_EQ(InMemory().DarkImage, "");
+  });
+}
+
 TEST_F(PreferencesWindow, LeavesTheImageWhenNoFileIsChosen) {
   Open();
   InPreferences([this](frmPreferences& window) {

@@ -23,7 +23,8 @@ void mnuEditChessboardOpen_Click(const CommandContext& context) {
   const ClockPause pause(context);
   Settings& settings = context.globals.settings;
   QString& directory = settings.PreferencesPreviousDirectory;
-  const QString fileName = context.dialogs.OpenFile({directory, ChessboardFilter});
+  const QString fileName = context.dialogs.OpenFile(
+      {.directory = directory, .filter = ChessboardFilter, .mustExist = false});
   if (fileName.isEmpty()) return;
   directory = DirectoryOf(fileName);
   LoadChessboard(context.globals.IniFile, fileName, settings);

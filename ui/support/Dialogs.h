@@ -6,10 +6,11 @@
 #include <QString>
 
 // What a file dialog is asked for. directory: where it starts; filter: pairs of visible text and
-// patterns, all separated by "|".
+// patterns, all separated by "|"; mustExist: whether a file to open has to be there.
 struct FileQuestion {
   QString directory;
   QString filter;
+  bool mustExist = true;
 };
 
 // The toolkit's common dialogs behind a small interface, so that commands can be tested without
@@ -21,8 +22,8 @@ class Dialogs {
   Dialogs& operator=(const Dialogs&) = delete;
   virtual ~Dialogs() = default;
 
-  // Each gives the chosen path, empty when cancelled. A file to open exists; a file to save may
-  // exist, and the player has then agreed to overwrite it.
+  // Each gives the chosen path, empty when cancelled. A file to save may exist, and the player has
+  // then agreed to overwrite it.
   virtual QString OpenFile(const FileQuestion& question) = 0;
   virtual QString SaveFile(const FileQuestion& question) = 0;
 

@@ -45,7 +45,7 @@ QString QtDialogs::OpenFile(const FileQuestion& question) {
                      ToolkitNameFilters(question.filter));
   dialog.setIconProvider(&icons);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
-  dialog.setFileMode(QFileDialog::ExistingFile);
+  dialog.setFileMode(question.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
