@@ -1,5 +1,6 @@
 """The program for someone who does not see it: everything is found, done and heard through AT-SPI."""
 
+import json
 import sys
 import tempfile
 import unittest
@@ -14,6 +15,8 @@ GAME = "^Gallopade Nova($|:| -)"
 SHORT_GAME = ["B6", "C4", "D2", "B3", "D4", "C2", "A1"]
 TOUR = [tuple(map(int, line.split())) for line in
         (DATA / "beverley-1848.knight").read_text().splitlines()[1:65]]
+# Thousands of positions are tested and shown before the tour is found.
+LONG_SEARCH = json.loads((DATA / "solver-cases.jsonl").read_text().splitlines()[2])
 # The knight is on F2, free are H1, where it is stuck, and A8, which it cannot reach.
 NO_TOUR = [(column, row) for column in range(8) for row in range(8)
            if (column, row) not in [(0, 0), (7, 7), (5, 6)]] + [(5, 6)]
@@ -200,6 +203,14 @@ class Solver(AccessibilityTest):
         self.reader.waits_to_hear("activate", "^Solved Successfully$")
         result = self.reader.window("^Solved Successfully$")
         self.assertIn("The game has been solved!", self.texts(result))
+
+    def test_a_search_does_not_tell_every_position(self):
+        (self.program.parent / "GallopadeNova.ini").write_text("[Settings]\nSolve Refresh=7\n")
+        self.start_with(LONG_SEARCH["moves"])
+        self.solve()
+        self.reader.wait_for(lambda: self.reader.has_window("^Solved Successfully$"), "the tour")
+        told = [entry for entry in self.reader.heard if entry[0] == "name"]
+        self.assertLess(len(told), LONG_SEARCH["redraws"] / 2)
 
     def test_it_is_told_that_there_is_none(self):
         self.start_with(NO_TOUR)

@@ -88,3 +88,11 @@ TEST(ValueLabelTest, TellsItsValueToAScreenReader) {
   EXPECT_EQ(label->role(), QAccessible::StaticText);
   EXPECT_EQ(label->text(QAccessible::Name), "4711");
 }
+
+TEST(ValueLabelTest, TellsAScreenReaderTheNewValueWhenItAsks) {
+  Framed framed;
+  QAccessibleInterface* label = QAccessible::queryAccessibleInterface(&framed.value);
+  framed.value.ShowValue("1");
+  framed.value.ShowValue("2");
+  EXPECT_EQ(label->text(QAccessible::Name), "2");
+}

@@ -1,9 +1,30 @@
 #include "ui/support/ValueLabel.h"
 
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QPainter>
 
 namespace {
+
+constexpr int TellingMilliseconds = 100;
+
+class AccessibleValue : public QAccessibleWidget {
+ public:
+  explicit AccessibleValue(ValueLabel& label)
+      : QAccessibleWidget(&label, QAccessible::StaticText), label_(label) {}
+
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Name ? label_.text() : QAccessibleWidget::text(kind);
+  }
+
+ private:
+  ValueLabel& label_;
+};
+
+QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
+  auto* label = dynamic_cast<ValueLabel*>(object);
+  return label == nullptr ? nullptr : new AccessibleValue(*label);
+}
 
 QPixmap NewPixmap(const QSize& size, double devicePixelRatio) {
   QPixmap pixmap(size * devicePixelRatio);
@@ -13,11 +34,26 @@ QPixmap NewPixmap(const QSize& size, double devicePixelRatio) {
 
 }  // namespace
 
-ValueLabel::ValueLabel(const QString& longest, QWidget* parent) : QLabel(longest, parent) {
+ValueLabel::ValueLabel(const QString& longest, QWidget* parent) : QLabel(parent) {
+  QAccessible::installFactory(MakeAccessible);
+  // With a name of its own the label does not send its text out each time; the name is never read.
+  setAccessibleName(longest);
+  setText(longest);
   setTextFormat(Qt::PlainText);
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   setFixedSize(sizeHint());
   setAttribute(Qt::WA_OpaquePaintEvent);
+  tellScreenReader_.setSingleShot(true);
+  tellScreenReader_.setInterval(TellingMilliseconds);
+  connect(&tellScreenReader_, &QTimer::timeout, this, [this] {
+    QAccessibleEvent event(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
+  });
+}
+
+void ValueLabel::ShowValue(const QString& value) {
+  setText(value);
+  if (!tellScreenReader_.isActive()) tellScreenReader_.start();
 }
 
 // On a screen with another scale everything is drawn anew.

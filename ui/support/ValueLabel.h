@@ -4,13 +4,17 @@
 
 #include <QLabel>
 #include <QPixmap>
+#include <QTimer>
 
 // A label of the size of its longest text, for a value that changes thousands of times a second: a
 // new value moves nothing, has nothing painted behind it and is put together from characters that
-// were drawn before. A screen reader gets it as it gets every label.
+// were drawn before. A screen reader that asks gets the value; of changes it is told a few times a
+// second.
 class ValueLabel : public QLabel {
  public:
   ValueLabel(const QString& longest, QWidget* parent);
+
+  void ShowValue(const QString& value);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -22,6 +26,7 @@ class ValueLabel : public QLabel {
   void DrawBackground();
   const QPixmap& Character(QChar character);
 
+  QTimer tellScreenReader_;
   QPixmap background_;  // what its parent shows there, made when first needed
   std::map<QChar, QPixmap> characters_;
 };

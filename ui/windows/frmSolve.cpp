@@ -112,7 +112,7 @@ QPushButton* frmSolve::AddButton(const char* name, const char* caption,
 void frmSolve::hsclRefreshRateValue_Change() {
   const int rate = hsclRefreshRateValue_->value();
   context_.globals.settings.SolveRefreshRate = static_cast<std::int16_t>(rate);
-  lblRefreshRate_->setText(
+  lblRefreshRate_->ShowValue(
       rate < 2 ? "On Every Move" : "Every" + QString::fromStdString(NumberText(rate)) + " Moves");
 }
 
@@ -123,14 +123,14 @@ void frmSolve::ShowProgress() {
 void frmSolve::ShowValues(std::int64_t tested) {
   const GameState& state = context_.state;
   if (std::exchange(shownTested_, tested) != tested) {
-    lblTestedValue_->setText(QString::number(tested));
+    lblTestedValue_->ShowValue(QString::number(tested));
   }
   if (std::exchange(shownMove_, state.MoveCount) != state.MoveCount) {
-    lblMoveValue_->setText(QString::number(state.MoveCount));
+    lblMoveValue_->ShowValue(QString::number(state.MoveCount));
   }
   const int square = SquareIndex(state.KnightX, state.KnightY);
   if (std::exchange(shownSquare_, square) != square) {
-    lblPositionValue_->setText(QString::fromStdString(SquareName(state.KnightX, state.KnightY)));
+    lblPositionValue_->ShowValue(QString::fromStdString(SquareName(state.KnightX, state.KnightY)));
   }
 }
 

@@ -9,9 +9,9 @@
 
 class QGridLayout;
 class QGroupBox;
-class QLabel;
 class QPushButton;
 class ScrollBar;
+class ValueLabel;
 
 // Starts and stops the search for a tour on the live game, shows how it goes, and takes back the
 // moves that it added.
@@ -53,11 +53,11 @@ class frmSolve : public QDialog, public SolveProgress {
   void Leave();
 
   const CommandContext& context_;
-  QLabel* lblTestedValue_ = nullptr;
-  QLabel* lblMoveValue_ = nullptr;
-  QLabel* lblPositionValue_ = nullptr;
+  ValueLabel* lblTestedValue_ = nullptr;
+  ValueLabel* lblMoveValue_ = nullptr;
+  ValueLabel* lblPositionValue_ = nullptr;
   ScrollBar* hsclRefreshRateValue_ = nullptr;
-  QLabel* lblRefreshRate_ = nullptr;
+  ValueLabel* lblRefreshRate_ = nullptr;
   QPushButton* cmdStartStop_ = nullptr;
   QPushButton* cmdBacktrack_ = nullptr;
 
