@@ -24,20 +24,42 @@ constexpr int StopsMeasured = 25;
 
 using Values = std::array<double, Runs>;
 
+// A redraw is without the search between two redraws.
+struct Cost {
+  Values entriesAtSlowRefresh{};  // for one of the reference
+  Values redraw{};                // in 1,000 entries of the reference
+};
+
 double Median(Values values) {
   std::sort(values.begin(), values.end());
   return values[Runs / 2];
 }
 
-double ReferenceNanosecondsAnEntry() {
+double ReferenceSecondsAnEntry() {
   ReferenceSearch reference;
-  const double begun = SecondsSpent();
+  const double begun = ProcessorSeconds();
   const std::int64_t entries = reference.Run(ReferenceEntries);
-  return (SecondsSpent() - begun) * 1e9 / static_cast<double>(entries);
+  return (ProcessorSeconds() - begun) / static_cast<double>(entries);
 }
 
-double NanosecondsAnEntry(const SearchReport& report) {
-  return report.seconds * 1e9 / static_cast<double>(report.entries);
+// The bare search, paused as often as for these redraws.
+double SearchSecondsARedraw(int refreshRate) {
+  GameState corner;
+  corner.Cell(0, 0) = GameState::Visited;
+  corner.MoveList[0] = {0, 0};
+  corner.MoveCount = 1;
+  TourSearch search(corner);
+  const double begun = ProcessorSeconds();
+  for (int redraw = 0; redraw < BareRedraws; ++redraw) search.Run(refreshRate + 1);
+  return (ProcessorSeconds() - begun) / BareRedraws;
+}
+
+void PrintCost(const char* measure, const Cost& cost) {
+  std::printf("%s\n", measure);
+  std::printf("  entries at rate 32000 %6.2f times the reference's\n",
+              Median(cost.entriesAtSlowRefresh));
+  std::printf("  redraw at rate 1000   %6.2f times 1,000 entries of the reference\n",
+              Median(cost.redraw));
 }
 
 void PrintPaints(const SearchReport& report) {
@@ -49,35 +71,26 @@ void PrintPaints(const SearchReport& report) {
               static_cast<double>(report.squarePaints) / redraws);
 }
 
-// The bare search, paused as often as for these redraws.
-double SearchMicrosecondsARedraw(int refreshRate) {
-  GameState corner;
-  corner.Cell(0, 0) = GameState::Visited;
-  corner.MoveList[0] = {0, 0};
-  corner.MoveCount = 1;
-  TourSearch search(corner);
-  const double begun = SecondsSpent();
-  for (int redraw = 0; redraw < BareRedraws; ++redraw) search.Run(refreshRate + 1);
-  return (SecondsSpent() - begun) * 1e6 / BareRedraws;
-}
-
 void MeasureSpeed(SolveSession& session) {
-  Values speed{};
-  Values microseconds{};
-  Values redraw{};
+  Cost processor;
+  Cost clock;
   SearchReport usual;
   for (std::size_t run = 0; run < Runs; ++run) {
-    const double reference = ReferenceNanosecondsAnEntry();
+    const double reference = ReferenceSecondsAnEntry();
+    const double search = SearchSecondsARedraw(UsualRefresh);
     const SearchReport slow = session.Search(SlowRefresh, SearchMilliseconds);
     usual = session.Search(UsualRefresh, SearchMilliseconds);
-    speed[run] = reference / NanosecondsAnEntry(slow);
-    microseconds[run] = usual.seconds * 1e6 / static_cast<double>(usual.redraws) -
-                        SearchMicrosecondsARedraw(UsualRefresh);
-    redraw[run] = microseconds[run] * 1e3 / (reference * UsualRefresh);
+    const auto enter = [&](Cost& cost, double SearchReport::*seconds) {
+      const double anEntry = slow.*seconds / static_cast<double>(slow.entries);
+      const double aRedraw = usual.*seconds / static_cast<double>(usual.redraws);
+      cost.entriesAtSlowRefresh[run] = reference / anEntry;
+      cost.redraw[run] = (aRedraw - search) / (reference * UsualRefresh);
+    };
+    enter(processor, &SearchReport::processorSeconds);
+    enter(clock, &SearchReport::seconds);
   }
-  std::printf("entries at rate 32000 %6.2f times the reference's\n", Median(speed));
-  std::printf("redraw at rate 1000   %6.2f times 1,000 entries of the reference (%.1f us)\n",
-              Median(redraw), Median(microseconds));
+  PrintCost("by the processor time of the program", processor);
+  PrintCost("by the clock", clock);
   PrintPaints(usual);
 }
 

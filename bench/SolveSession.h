@@ -12,7 +12,8 @@
 struct SearchReport {
   std::int64_t entries = 0;
   std::int64_t redraws = 0;
-  double seconds = 0;
+  double seconds = 0;           // on the clock
+  double processorSeconds = 0;  // of the program, without the X server's
   std::int64_t boardPaints = 0;
   std::uint64_t cellsPainted = 0;
   std::int64_t countPaints = 0;   // of "Tested", which changes at every redraw
@@ -25,9 +26,8 @@ struct MemoryReport {
   long late = 0;
 };
 
-// Under an X server others work for the program as well, so that only the clock on the wall tells
-// what it costs; offscreen it is processor time, since other programs may be running.
-double SecondsSpent();
+double SecondsOnTheClock();
+double ProcessorSeconds();
 
 // The program with a game that begins in the corner, and a player who starts and stops searches.
 class SolveSession {
