@@ -31,8 +31,10 @@ void Game::tmrTime_Timer() {
 void Game::DoCaption() {
   if (state_.SolverRunning) return;
   std::string caption = "Gallopade Nova";
-  if (options_.ShowScore) caption += ":" + NumberText(state_.MoveCount);
-  if (options_.ShowTime) caption += " - " + TimeString(state_.ElapsedHalfSeconds);
+  if (options_.ShowScore) caption.append(":").append(NumberText(state_.MoveCount));
+  if (options_.ShowTime) {
+    caption.append(" - ").append(TimeString(state_.ElapsedHalfSeconds));
+  }
   if (caption != window_.Caption()) window_.SetCaption(caption);
 }
 
