@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QRadioButton>
 
+#include "ui/support/NamedControls.h"
 #include "ui/windows/frmPreferences.h"
 #include "ui/windows/preferences/ChooserButton.h"
 #include "ui/windows/preferences/Choosers.h"
@@ -18,12 +19,6 @@ constexpr int ColumnGap = 12;
 constexpr int ButtonGap = 8;
 // Beside a button's caption.
 constexpr int CaptionMargin = 16;
-
-QGroupBox* NewFrame(QWidget* parent, const char* name, const char* title) {
-  auto* frame = new QGroupBox(title, parent);
-  frame->setObjectName(name);
-  return frame;
-}
 
 // Of a group of options the chosen one is the stop of the tab key.
 void StopAtChosenOption(QRadioButton* option) {
@@ -62,7 +57,7 @@ void frmPreferences::AddControls() {
 }
 
 QGroupBox* frmPreferences::AddChessboardFrame() {
-  QGroupBox* frame = NewFrame(this, "fraChessboard", "Chessboard:");
+  QGroupBox* frame = AddFrame(this, "fraChessboard", "Chessboard:");
   auto* layout = new QGridLayout(frame);
   int row = 0;
   for (int owner = 0; owner < ChooserCount; ++owner) {
@@ -95,7 +90,7 @@ void frmPreferences::AddChooser(int owner, QGridLayout& layout, int row) {
 }
 
 QGroupBox* frmPreferences::AddHighlightFrame() {
-  QGroupBox* frame = NewFrame(this, "fraHighlight", "Highlight:");
+  QGroupBox* frame = AddFrame(this, "fraHighlight", "Highlight:");
   auto* layout = new QGridLayout(frame);
   AddChooser(HighlightChooser, *layout, 0);
   optHighlight_ = AddOptions(frame, *layout, "optHighlight",
@@ -104,7 +99,7 @@ QGroupBox* frmPreferences::AddHighlightFrame() {
 }
 
 QGroupBox* frmPreferences::AddPositionFrame() {
-  QGroupBox* frame = NewFrame(this, "fraPosition", "Starting Position:");
+  QGroupBox* frame = AddFrame(this, "fraPosition", "Starting Position:");
   auto* layout = new QGridLayout(frame);
   pctGrid_ = new PreviewBoard(settings_, frame);
   connect(pctGrid_, &PreviewBoard::Clicked, this, &frmPreferences::pctGrid_Click);
@@ -115,7 +110,7 @@ QGroupBox* frmPreferences::AddPositionFrame() {
 }
 
 QGroupBox* frmPreferences::AddProgramFrame() {
-  QGroupBox* frame = NewFrame(this, "fraProgram", "Program:");
+  QGroupBox* frame = AddFrame(this, "fraProgram", "Program:");
   auto* layout = new QVBoxLayout(frame);
   layout->addWidget(AddButton("cmdDefaultConfiguration", "Defa&ult Configuration",
                               &frmPreferences::cmdDefaultConfiguration_Click));

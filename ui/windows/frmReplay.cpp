@@ -14,7 +14,9 @@
 #include <QTimer>
 
 #include "storage/NumberParser.h"
+#include "ui/support/NamedControls.h"
 #include "ui/support/ScrollBar.h"
+#include "ui/support/ValueLabel.h"
 
 namespace {
 
@@ -23,29 +25,6 @@ constexpr int SpeedLargeStep = 5;
 constexpr int SeekLargeStep = 10;
 constexpr int MillisecondsOfTenth = 100;
 constexpr const char* Tag = "tag";
-
-// A label for a value that changes fast: its size is that of the longest text.
-QLabel* AddValueLabel(QWidget* parent, const char* name, const QString& longest) {
-  auto* label = new QLabel(longest, parent);
-  label->setObjectName(name);
-  label->setTextFormat(Qt::PlainText);
-  label->setFixedSize(label->sizeHint());
-  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  return label;
-}
-
-QLabel* AddLabel(QWidget* parent, const char* name, const QString& text) {
-  auto* label = new QLabel(text, parent);
-  label->setObjectName(name);
-  label->setTextFormat(Qt::PlainText);
-  return label;
-}
-
-QGroupBox* NewFrame(QWidget* parent, const char* name, const QString& caption) {
-  auto* frame = new QGroupBox(caption, parent);
-  frame->setObjectName(name);
-  return frame;
-}
 
 }  // namespace
 
@@ -67,7 +46,7 @@ frmReplay::frmReplay(const CommandContext& context, QWidget* mainWindow)
 
 // Made in the order in which they are read aloud: each value after its caption.
 QGroupBox* frmReplay::AddKnightFrame() {
-  QGroupBox* frame = NewFrame(this, "fraKnight", " Knight:");
+  QGroupBox* frame = AddFrame(this, "fraKnight", " Knight:");
   auto* layout = new QGridLayout(frame);
   layout->addWidget(AddLabel(frame, "lblMove", "Move:"), 0, 0);
   lblMoveValue_ = AddValueLabel(frame, "lblMoveValue", "64");
@@ -79,7 +58,7 @@ QGroupBox* frmReplay::AddKnightFrame() {
 }
 
 QGroupBox* frmReplay::AddControlsFrame() {
-  QGroupBox* frame = NewFrame(this, "fraControls", " Controls:");
+  QGroupBox* frame = AddFrame(this, "fraControls", " Controls:");
   cmdRestart_ = AddButton("cmdRestart", "&Restart", &frmReplay::cmdRestart_Click);
   cmdFinish_ = AddButton("cmdFinish", "&Finish", &frmReplay::cmdFinish_Click);
   cmdAdvancePause_ = AddButton("cmdAdvancePause", "&Advance", &frmReplay::cmdAdvancePause_Click);
@@ -103,7 +82,7 @@ QPushButton* frmReplay::AddButton(const char* name, const char* caption,
 }
 
 QGroupBox* frmReplay::AddAdvanceFrame() {
-  QGroupBox* frame = NewFrame(this, "fraAdvance", " Advancement:");
+  QGroupBox* frame = AddFrame(this, "fraAdvance", " Advancement:");
   optAdvance_[Automatic] = AddOption(frame, "optAdvance(0)", "A&utomatic");
   optAdvance_[Manual] = AddOption(frame, "optAdvance(1)", "&Manual");
   lblSpeedSeek_ = AddLabel(frame, "lblSpeedSeek", "Speed:");
@@ -132,7 +111,7 @@ QRadioButton* frmReplay::AddOption(QWidget* parent, const char* name, const char
 
 void frmReplay::StartWith(int Total) {
   replayTotal_ = std::max(Total, 1);
-  lblMoveValue_->setText("1");
+  lblMoveValue_->ShowValue("1");
   lblMoveValue_Change();
   const Globals& globals = context_.globals;
   const ReplaySettings kept = ReadReplaySettings(globals.IniFile, globals.IniFilePathName);
@@ -173,7 +152,7 @@ bool frmReplay::StepTowardsGoal() {
 }
 
 void frmReplay::ShowPosition() {
-  lblMoveValue_->setText(QString::number(ReplayPosition()));
+  lblMoveValue_->ShowValue(QString::number(ReplayPosition()));
   lblMoveValue_Change();
   const bool finished = ReplayPosition() == replayTotal_;
   if (finished) tmrAdvance_->stop();
@@ -182,13 +161,13 @@ void frmReplay::ShowPosition() {
   cmdRestart_->setEnabled(finished || ReplayPosition() > 1);
   if (IsAutomatic()) return;
   SetBar(replayTotal_, ReplayPosition(), SeekLargeStep);
-  lblSpeedSeekValue_->setText(QString::number(ReplayPosition()));
+  lblSpeedSeekValue_->ShowValue(QString::number(ReplayPosition()));
 }
 
 void frmReplay::lblMoveValue_Change() {
   const int move = lblMoveValue_->text().toInt();
   const MoveRow& square = context_.state.MoveList[static_cast<std::size_t>(move - 1)];
-  lblPositionValue_->setText(QString::fromStdString(SquareName(square.x, square.y)));
+  lblPositionValue_->ShowValue(QString::fromStdString(SquareName(square.x, square.y)));
 }
 
 // A tick asks for nothing while the knight is walking anyway.
@@ -199,7 +178,7 @@ void frmReplay::tmrAdvance_Timer() {
 void frmReplay::hsclSpeedSeekSet_Change() {
   const int value = hsclSpeedSeekSet_->value();
   if (IsAutomatic()) {
-    lblSpeedSeekValue_->setText(QString::number(value / 10.0) + " sec.");
+    lblSpeedSeekValue_->ShowValue(QString::number(value / 10.0) + " sec.");
     tmrAdvance_->setInterval(value * MillisecondsOfTenth);
   } else {
     DoUpdateReplay(value - ReplayPosition());

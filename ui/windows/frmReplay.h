@@ -10,6 +10,7 @@ class QPushButton;
 class QRadioButton;
 class QTimer;
 class ScrollBar;
+class ValueLabel;
 
 // Plays the live game again from its first square, by a timer or step by step. One bar serves two
 // uses: the speed of the automatic replay, and the move sought in the manual one; while it seeks,
@@ -74,12 +75,12 @@ class frmReplay : public QDialog {
 
   const CommandContext& context_;
   QTimer* tmrAdvance_ = nullptr;
-  QLabel* lblMoveValue_ = nullptr;
-  QLabel* lblPositionValue_ = nullptr;
+  ValueLabel* lblMoveValue_ = nullptr;
+  ValueLabel* lblPositionValue_ = nullptr;
   QRadioButton* optAdvance_[2] = {};
   ScrollBar* hsclSpeedSeekSet_ = nullptr;
   QLabel* lblSpeedSeek_ = nullptr;
-  QLabel* lblSpeedSeekValue_ = nullptr;
+  ValueLabel* lblSpeedSeekValue_ = nullptr;
   QPushButton* cmdRestart_ = nullptr;
   QPushButton* cmdFinish_ = nullptr;
   QPushButton* cmdAdvancePause_ = nullptr;

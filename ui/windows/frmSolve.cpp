@@ -9,6 +9,7 @@
 #include <QScopedValueRollback>
 
 #include "core/NumberText.h"
+#include "ui/support/NamedControls.h"
 #include "ui/support/ScrollBar.h"
 #include "ui/support/ValueLabel.h"
 
@@ -17,25 +18,6 @@ namespace {
 constexpr int SlowestRefresh = 32000;
 constexpr int RefreshSmallStep = 100;
 constexpr int RefreshLargeStep = 1000;
-
-QLabel* AddLabel(QWidget* parent, const char* name, const QString& text) {
-  auto* label = new QLabel(text, parent);
-  label->setObjectName(name);
-  label->setTextFormat(Qt::PlainText);
-  return label;
-}
-
-ValueLabel* AddValueLabel(QWidget* parent, const char* name, const QString& longest) {
-  auto* label = new ValueLabel(longest, parent);
-  label->setObjectName(name);
-  return label;
-}
-
-QGroupBox* NewFrame(QWidget* parent, const char* name, const QString& caption) {
-  auto* frame = new QGroupBox(caption, parent);
-  frame->setObjectName(name);
-  return frame;
-}
 
 }  // namespace
 
@@ -55,7 +37,7 @@ frmSolve::frmSolve(const CommandContext& context, QWidget* mainWindow)
 
 // Made in the order in which they are read aloud: each value after its caption.
 QGroupBox* frmSolve::AddKnightFrame() {
-  QGroupBox* frame = NewFrame(this, "fraKnight", " Knight:");
+  QGroupBox* frame = AddFrame(this, "fraKnight", " Knight:");
   auto* layout = new QGridLayout(frame);
   layout->setColumnStretch(1, 1);
   layout->addWidget(AddLabel(frame, "lblTested", "Tested:"), 0, 0);
@@ -71,7 +53,7 @@ QGroupBox* frmSolve::AddKnightFrame() {
 }
 
 QGroupBox* frmSolve::AddRefreshFrame() {
-  QGroupBox* frame = NewFrame(this, "fraRefresh", " Refresh:");
+  QGroupBox* frame = AddFrame(this, "fraRefresh", " Refresh:");
   hsclRefreshRateValue_ = new ScrollBar(frame);
   hsclRefreshRateValue_->setObjectName("hsclRefreshRateValue");
   hsclRefreshRateValue_->setAccessibleName("Refresh");
@@ -90,7 +72,7 @@ QGroupBox* frmSolve::AddRefreshFrame() {
 }
 
 QGroupBox* frmSolve::AddControlsFrame() {
-  QGroupBox* frame = NewFrame(this, "fraControls", " Controls:");
+  QGroupBox* frame = AddFrame(this, "fraControls", " Controls:");
   cmdStartStop_ = AddButton("cmdStartStop", "&Start", &frmSolve::cmdStartStop_Click);
   cmdBacktrack_ = AddButton("cmdBacktrack", "&Backtrack", &frmSolve::cmdBacktrack_Click);
   cmdBacktrack_->setEnabled(false);

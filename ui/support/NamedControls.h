@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+class QGroupBox;
+class QLabel;
+class QWidget;
+class ValueLabel;
+
+// Controls of several windows under the names that they have in the program's vocabulary; each
+// belongs to its parent.
+
+QGroupBox* AddFrame(QWidget* parent, const char* name, const QString& caption);
+
+// Shows its text as it stands, never as markup.
+QLabel* AddLabel(QWidget* parent, const char* name, const QString& text);
+
+// For a value that changes fast: the label has the size of the longest text.
+ValueLabel* AddValueLabel(QWidget* parent, const char* name, const QString& longest);
