@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 #include <QLabel>
+#include <QRadioButton>
 
 #include "ui/support/ValueLabel.h"
 
@@ -9,6 +10,16 @@ QGroupBox* AddFrame(QWidget* parent, const char* name, const QString& caption) {
   auto* frame = new QGroupBox(caption, parent);
   frame->setObjectName(name);
   return frame;
+}
+
+QRadioButton* AddOption(QWidget* parent, const QString& name, const QString& caption) {
+  auto* option = new QRadioButton(caption, parent);
+  option->setObjectName(name);
+  option->setFocusPolicy(Qt::ClickFocus);
+  QObject::connect(option, &QRadioButton::toggled, option, [option](bool checked) {
+    option->setFocusPolicy(checked ? Qt::StrongFocus : Qt::ClickFocus);
+  });
+  return option;
 }
 
 QLabel* AddLabel(QWidget* parent, const char* name, const QString& text) {

@@ -4,6 +4,7 @@
 
 class QGroupBox;
 class QLabel;
+class QRadioButton;
 class QWidget;
 class ValueLabel;
 
@@ -11,6 +12,9 @@ class ValueLabel;
 // belongs to its parent.
 
 QGroupBox* AddFrame(QWidget* parent, const char* name, const QString& caption);
+
+// Of a group of options the chosen one is the stop of the tab key.
+QRadioButton* AddOption(QWidget* parent, const QString& name, const QString& caption);
 
 // Shows its text as it stands, never as markup.
 QLabel* AddLabel(QWidget* parent, const char* name, const QString& text);

@@ -20,23 +20,13 @@ constexpr int ButtonGap = 8;
 // Beside a button's caption.
 constexpr int CaptionMargin = 16;
 
-// Of a group of options the chosen one is the stop of the tab key.
-void StopAtChosenOption(QRadioButton* option) {
-  option->setFocusPolicy(Qt::ClickFocus);
-  QObject::connect(option, &QRadioButton::toggled, option, [option](bool checked) {
-    option->setFocusPolicy(checked ? Qt::StrongFocus : Qt::ClickFocus);
-  });
-}
-
 // Options numbered from 0 in the order of their captions, each in the row after the one before.
 QButtonGroup* AddOptions(QGroupBox* frame, QGridLayout& layout, const QString& name,
                          std::initializer_list<const char*> captions) {
   auto* group = new QButtonGroup(frame);
   for (const char* caption : captions) {
     const int index = static_cast<int>(group->buttons().size());
-    auto* option = new QRadioButton(caption, frame);
-    option->setObjectName(QString("%1(%2)").arg(name).arg(index));
-    StopAtChosenOption(option);
+    QRadioButton* option = AddOption(frame, QString("%1(%2)").arg(name).arg(index), caption);
     group->addButton(option, index);
     layout.addWidget(option, layout.rowCount(), 0, 1, 2);
   }

@@ -44,6 +44,12 @@ frmReplay::frmReplay(const CommandContext& context, QWidget* mainWindow)
   cmdAdvancePause_->setFocus();
 }
 
+// No default button shows where the keyboard is, so the focus is marked from the beginning.
+void frmReplay::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  setAttribute(Qt::WA_KeyboardFocusChange);
+}
+
 // Made in the order in which they are read aloud: each value after its caption.
 QGroupBox* frmReplay::AddKnightFrame() {
   QGroupBox* frame = AddFrame(this, "fraKnight", " Knight:");
@@ -85,6 +91,11 @@ QGroupBox* frmReplay::AddAdvanceFrame() {
   QGroupBox* frame = AddFrame(this, "fraAdvance", " Advancement:");
   optAdvance_[Automatic] = AddOption(frame, "optAdvance(0)", "A&utomatic");
   optAdvance_[Manual] = AddOption(frame, "optAdvance(1)", "&Manual");
+  for (const QRadioButton* option : optAdvance_) {
+    connect(option, &QRadioButton::toggled, this, [this](bool checked) {
+      if (checked) optAdvance_Click();
+    });
+  }
   lblSpeedSeek_ = AddLabel(frame, "lblSpeedSeek", "Speed:");
   lblSpeedSeekValue_ = AddValueLabel(frame, "lblSpeedSeekValue", "0.1 sec.");
   hsclSpeedSeekSet_ = new ScrollBar(frame);
@@ -98,15 +109,6 @@ QGroupBox* frmReplay::AddAdvanceFrame() {
   layout->addWidget(lblSpeedSeek_, 3, 0);
   layout->addWidget(lblSpeedSeekValue_, 3, 1, Qt::AlignRight);
   return frame;
-}
-
-QRadioButton* frmReplay::AddOption(QWidget* parent, const char* name, const char* caption) {
-  auto* option = new QRadioButton(caption, parent);
-  option->setObjectName(name);
-  connect(option, &QRadioButton::toggled, this, [this](bool checked) {
-    if (checked) optAdvance_Click();
-  });
-  return option;
 }
 
 void frmReplay::StartWith(int Total) {

@@ -45,6 +45,9 @@ class frmReplay : public QDialog {
   // replay's settings.
   void done(int result) override;
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+
  private:
   enum Advancement { Automatic, Manual };  // the indices of optAdvance
   struct Goal {
@@ -56,7 +59,6 @@ class frmReplay : public QDialog {
   QGroupBox* AddAdvanceFrame();
   QGroupBox* AddControlsFrame();
   QPushButton* AddButton(const char* name, const char* caption, void (frmReplay::*handler)());
-  QRadioButton* AddOption(QWidget* parent, const char* name, const char* caption);
 
   // The move shown, 1 = the first square: always that of the live game.
   int ReplayPosition() const { return context_.state.MoveCount; }
