@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTest>
 
@@ -161,6 +162,22 @@ void ClickAnything(const Hand& hand, QWidget& window) {
   }
 }
 
+QPoint PointIn(const Hand& hand, const QWidget& widget) {
+  return {hand.chance.Below(std::max(widget.width(), 1)),
+          hand.chance.Below(std::max(widget.height(), 1))};
+}
+
+void DragAnything(const Hand& hand, QWidget& window) {
+  const auto children = UsableChildren<QWidget>(window);
+  if (children.isEmpty()) return;
+  const QPointer<QWidget> child = hand.chance.Pick(children);
+  hand.journal.Note(NameOf(window) + " drag in " + NameOf(*child));
+  QTest::mousePress(child, Qt::LeftButton, Qt::NoModifier, PointIn(hand, *child));
+  for (int i = 0; i < 3 && child != nullptr; ++i) QTest::mouseMove(child, PointIn(hand, *child));
+  if (child == nullptr) return;
+  QTest::mouseRelease(child, Qt::LeftButton, Qt::NoModifier, PointIn(hand, *child));
+}
+
 // A screen reader reaches the menu of a window behind a dialog; nothing may come of it.
 void ChooseBehindDialog(const Hand& hand) {
   const auto actions = hand.window.findChildren<QAction*>();
@@ -180,16 +197,24 @@ void CloseBehindDialog(const Hand& hand) {
   if (hand.window.close()) hand.journal.Fail("the main window has closed behind a dialog");
 }
 
+// Closes what is on top, which takes the request for itself.
+void QuitBehindDialog(const Hand& hand) {
+  hand.journal.Note("quit behind the dialog");
+  QApplication::closeAllWindows();
+}
+
 void UseDialog(const Hand& hand, QWidget& dialog) {
   const int what = hand.chance.Below(100);
-  if (what < 65) {
+  if (what < 60) {
     UseAnyControl(hand, dialog);
+  } else if (what < 65) {
+    DragAnything(hand, dialog);
   } else if (what < 80) {
     PressAnyKey(hand, dialog);
   } else if (what < 83) {
     ChooseBehindDialog(hand);
   } else if (what < 84) {
-    CloseBehindDialog(hand);
+    hand.chance.OneIn(3) ? QuitBehindDialog(hand) : CloseBehindDialog(hand);
   } else if (what < 98) {
     ClickAnything(hand, dialog);
   } else {

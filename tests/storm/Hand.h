@@ -18,6 +18,9 @@ void ActOnMainWindow(const Hand& hand);
 void ActOnHelp(const Hand& hand, QWidget& help);
 void ActOnDialog(const Hand& hand, QWidget& dialog);
 void ActOnPopup(const Hand& hand, QWidget& popup);
+// What the desktop's owner does at any time, also behind dialogs: another theme, another screen for
+// the window, another state of the main window.
+void ActOnDesktop(const Hand& hand, QWidget& window);
 
 // One step on the way out of the program.
 void LeaveDialog(const Hand& hand, QWidget& dialog);

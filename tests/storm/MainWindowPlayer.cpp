@@ -1,7 +1,6 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
-#include <QStyleFactory>
 #include <QTest>
 
 #include "tests/storm/Hand.h"
@@ -167,42 +166,6 @@ void Resize(const Hand& hand) {
   hand.window.resize(side + hand.chance.Below(80), side);
 }
 
-void ChangeWindowState(const Hand& hand) {
-  static constexpr Qt::WindowState States[] = {Qt::WindowMinimized, Qt::WindowMaximized,
-                                               Qt::WindowFullScreen, Qt::WindowNoState};
-  const Qt::WindowState state =
-      hand.window.windowState() == Qt::WindowNoState ? hand.chance.Pick(States) : Qt::WindowNoState;
-  hand.journal.Note("window state " + std::to_string(state));
-  hand.window.setWindowState(state);
-  hand.window.move(hand.chance.Below(900) - 100, hand.chance.Below(700) - 100);
-}
-
-// What the desktop's owner may do at any time.
-void ChangeTheme(const Hand& hand) {
-  switch (hand.chance.Below(6)) {
-    case 0: {
-      hand.journal.Note("another style");
-      const QStringList styles = QStyleFactory::keys();
-      QApplication::setStyle(hand.chance.Pick(styles));
-      break;
-    }
-    case 1:
-    case 2: {
-      hand.journal.Note("another size of letters");
-      QFont font = QApplication::font();
-      font.setPointSize(6 + hand.chance.Below(14));
-      QApplication::setFont(font);
-      break;
-    }
-    default: {
-      hand.journal.Note("another palette");
-      const QColor button =
-          QColor::fromHsv(hand.chance.Below(360), 40, 40 + hand.chance.Below(200));
-      QApplication::setPalette(QPalette(button));
-    }
-  }
-}
-
 void CloseWindow(const Hand& hand) {
   if (hand.chance.OneIn(3)) {
     hand.journal.Note("quit");
@@ -223,8 +186,6 @@ constexpr Deed Deeds[] = {
     {70, PressShortcut},
     {200, ChooseFromMenu},
     {6, Resize},
-    {3, ChangeWindowState},
-    {1, ChangeTheme},
     {2, CloseWindow},
 };
 

@@ -15,6 +15,7 @@ namespace {
 constexpr int MostActionsToLeave = 500;
 constexpr int MostNestedActions = 30;
 constexpr int LongestSession = 3000;
+constexpr int ActionsPerChangeOfDesktop = 100;
 
 QWidget* OpenHelp() {
   for (QWidget* widget : QApplication::topLevelWidgets()) {
@@ -112,6 +113,8 @@ void Storm::ActOn(frmGame& window) {
   if (QWidget* popup = QApplication::activePopupWidget()) {
     CountAt(*popup);
     ActOnPopup(hand, *popup);
+  } else if (!leaving && chance_.OneIn(ActionsPerChangeOfDesktop)) {
+    ActOnDesktop(hand, modal != nullptr ? *modal : window);
   } else if (modal != nullptr) {
     Activate(*modal);
     leaving ? LeaveDialog(hand, *modal) : ActOnDialog(hand, *modal);

@@ -1,5 +1,6 @@
 #include "tests/storm/VirtualTime.h"
 
+#include <algorithm>
 #include <atomic>
 #include <csignal>
 #include <cstdlib>
@@ -79,6 +80,10 @@ std::int64_t VirtualTime::Milliseconds() {
 
 std::int64_t VirtualTime::Waits() {
   return waits;
+}
+
+void VirtualTime::JumpTo(std::int64_t milliseconds) {
+  nanoseconds = std::max<std::int64_t>(nanoseconds, milliseconds * NanosecondsOfMillisecond);
 }
 
 void VirtualTime::Begin() {

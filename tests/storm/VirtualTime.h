@@ -11,6 +11,9 @@ namespace VirtualTime {
 
 std::int64_t Milliseconds();
 
+// Never back.
+void JumpTo(std::int64_t milliseconds);
+
 // How often the event loop has gone to sleep: what a real program would wake up from.
 std::int64_t Waits();
 

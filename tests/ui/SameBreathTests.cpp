@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include "tests/support/Games.h"
 #include "tests/ui/Desk.h"
 
 namespace {
@@ -82,4 +83,35 @@ TEST_F(SameBreath, AResizedWindowDoesNotStartTheClockBehindTheNextDialog) {
   Choose("mnuFileOpen");
 
   EXPECT_FALSE(clockRan);
+}
+
+TEST_F(SameBreath, TheWindowDoesNotCloseBehindTheNextDialog) {
+  Open();
+  std::vector<MoveRow> moves = SquaresNamed(Games::DeadEndAfter20);
+  for (std::size_t i = 1; i + 1 < moves.size(); ++i) ClickSquare(moves[i].x, moves[i].y);
+  CloseAnd([this] { EXPECT_FALSE(Window().close()); });
+  WhenNextModalOpens([this](QWidget& scores) {
+    EXPECT_EQ(scores.objectName(), "frmScores");
+    EXPECT_TRUE(Window().isVisible());
+    scores.close();
+  });
+
+  ClickSquare(moves.back().x, moves.back().y);
+
+  EXPECT_TRUE(AllVisitsMade());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !Window().isVisible(); }));
+}
+
+TEST_F(SameBreath, TheWindowClosesOnceTheDialogHasBeenActedOn) {
+  Open();
+  ClickSquare(1, 2);
+  CloseAnd([this] { EXPECT_FALSE(Window().close()); });
+  Choose("mnuHelpAbout");
+  Answer("Exit?", "Your current game is not finished. Do you really want to exit?",
+         QMessageBox::No);
+
+  EXPECT_TRUE(QTest::qWaitFor([this] { return AllVisitsMade(); }));
+
+  EXPECT_TRUE(Window().isVisible());
+  EXPECT_TRUE(Window().PlayerMayAct());
 }

@@ -48,8 +48,11 @@ void frmGame::Form_Load(const QString& commandLine) {
 
 bool frmGame::Perform(const std::function<void()>& deed) {
   if (!PlayerMayAct()) return false;
-  const QScopedValueRollback performing(performing_, true);
-  deed();
+  {
+    const QScopedValueRollback performing(performing_, true);
+    deed();
+  }
+  if (closeRequested_) CloseAsRequested();
   return true;
 }
 
@@ -119,12 +122,13 @@ void frmGame::BeginWork() {
 void frmGame::EndWork() {
   --works_;
   CatchUpOnResize();
-  if (works_ == 0 && closeRequested_) CloseAsRequested();
+  if (PlayerMayAct() && closeRequested_) CloseAsRequested();
 }
 
 // In the normal way, but only when nothing else is going on above the event loop.
 void frmGame::CloseAsRequested() {
   QTimer::singleShot(CloseRetryMilliseconds, this, [this] {
+    if (!closeRequested_) return;
     if (!PlayerMayAct() || QApplication::activeModalWidget() != nullptr) {
       CloseAsRequested();
     } else {
@@ -134,10 +138,10 @@ void frmGame::CloseAsRequested() {
 }
 
 // The window manager cannot close it behind a dialog; nobody else shall either, since the dialog
-// goes on with the game.
+// goes on with the game. A dialog that has just closed may lead to the next.
 void frmGame::closeEvent(QCloseEvent* event) {
   if (QApplication::activeModalWidget() != nullptr) return event->ignore();
-  closeRequested_ = works_ > 0;
+  closeRequested_ = !PlayerMayAct();
   event->setAccepted(!closeRequested_ && game_.Form_Unload());
 }
 
