@@ -224,7 +224,18 @@ TEST_F(PreferenceMenusTest, OpenOnReleasingAnyKeyWithShiftAlone) {
 TEST_F(PreferenceMenusTest, StayClosedWhenShiftItselfIsReleased) {
   Open();
   InPreferences([this](frmPreferences& window) {
+    // Without and with a screen reader that listens.
     EXPECT_FALSE(Opens(window, Qt::Key_Shift, Qt::ShiftModifier));
+    EXPECT_FALSE(Opens(window, Qt::Key_Shift, Qt::NoModifier));
+  });
+}
+
+TEST_F(PreferenceMenusTest, OpenWhenShiftComesUpBeforeTheKeyPressedWithIt) {
+  Open();
+  InPreferences([this](frmPreferences& window) {
+    QTest::keyPress(&Child<QWidget>(window, "cmdLight"), Qt::Key_A, Qt::ShiftModifier);
+    EXPECT_TRUE(Opens(window, Qt::Key_Shift, Qt::ShiftModifier));
+    EXPECT_FALSE(Opens(window, Qt::Key_A, Qt::NoModifier));
   });
 }
 

@@ -17,5 +17,11 @@ class ChooserButton : public QPushButton {
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
+
+ private:
+  bool RequestsMenu(const QKeyEvent& event);
+
+  bool shiftedKeyDown_ = false;
 };
