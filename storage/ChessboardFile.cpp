@@ -21,11 +21,10 @@ bool IsChoice(const QString& key) {
 }  // namespace
 
 void LoadChessboard(const clsIniFile& iniFile, const QString& pathName, Settings& settings) {
+  const IniValues values = iniFile.ReadIniFileValues(pathName);
   for (const IniEntry& entry : ChessboardEntries(settings)) {
     const SettingRow& row = SettingOf(entry.key.toLatin1());
-    QString text;
-    QString ignoredError;
-    iniFile.ReadIniFileValue(pathName, entry.section, entry.key, text, ignoredError);
+    const QString text = values.Value(entry.section, entry.key);
     (IsChoice(entry.key) ? LoadChoice : Load)(row, text, settings);
   }
 }

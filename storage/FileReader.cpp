@@ -22,7 +22,7 @@ std::optional<ProgramError> WhyNotReadable(const QString& pathName) {
 
 // A part at a time: room for the most there may be is costly to get, and most files are small.
 QByteArray ReadUpTo(QFile& file, qint64 maximumBytes) {
-  constexpr qint64 Part = 65536;
+  constexpr qint64 Part = 4096;
   QByteArray bytes;
   QByteArray part;
   do {

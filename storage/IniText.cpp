@@ -1,9 +1,9 @@
 #include "storage/IniText.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "storage/EightBitText.h"
-#include "storage/TextLines.h"
 
 namespace {
 
@@ -20,10 +20,6 @@ QByteArrayView Trimmed(QByteArrayView bytes) {
   return bytes;
 }
 
-bool IsName(QByteArrayView bytes, const QString& name) {
-  return TextFromBytes(Trimmed(bytes)).compare(name, Qt::CaseInsensitive) == 0;
-}
-
 // What stands between the brackets, if the line is the head of a section.
 std::optional<QByteArrayView> SectionOf(QByteArrayView line) {
   if (!line.startsWith('[')) return std::nullopt;
@@ -32,9 +28,41 @@ std::optional<QByteArrayView> SectionOf(QByteArrayView line) {
   return line.sliced(1, close - 1);
 }
 
-bool HasKey(QByteArrayView line, const QString& key) {
+std::optional<QByteArrayView> KeyOf(QByteArrayView line) {
   const qsizetype equals = line.indexOf('=');
-  return equals >= 0 && !line.startsWith(';') && IsName(line.first(equals), key);
+  if (equals < 0 || line.startsWith(';')) return std::nullopt;
+  return line.first(equals);
+}
+
+bool IsAscii(QByteArrayView bytes) {
+  return std::all_of(bytes.begin(), bytes.end(),
+                     [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
+// Most names are plain, and need not be made into a text to be compared.
+bool IsName(QByteArrayView found, const QString& wanted) {
+  const Qt::CaseSensitivity anyCase = Qt::CaseInsensitive;
+  return IsAscii(found) ? QLatin1String(found).compare(wanted, anyCase) == 0
+                        : TextFromBytes(found).compare(wanted, anyCase) == 0;
+}
+
+IniLine LineFrom(QByteArrayView content, const TextLine& place) {
+  const auto section = SectionOf(content);
+  const auto key = section ? std::nullopt : KeyOf(content);
+  const QByteArrayView name = section ? *section : key.value_or(QByteArrayView());
+  return {place, section.has_value(), key.has_value(), Trimmed(name)};
+}
+
+// The lines that are not blank; their names lie in the text.
+std::vector<IniLine> LinesOf(const QByteArray& text) {
+  std::vector<IniLine> lines;
+  TextLine line{0, 0, text.startsWith(ByteOrderMark) ? ByteOrderMark.size() : 0};
+  while (line.next < text.size()) {
+    line = LineAt(text, line.next);
+    const auto content = Trimmed(QByteArrayView(text).sliced(line.begin, line.end - line.begin));
+    if (!content.isEmpty()) lines.push_back(LineFrom(content, line));
+  }
+  return lines;
 }
 
 // Where an entry stands in the text, or where it belongs: a whole line without its line end, or an
@@ -46,22 +74,19 @@ struct IniPlace {
   qsizetype end = 0;
 };
 
-IniPlace FindPlace(const QByteArray& text, const QString& section, const QString& key) {
+IniPlace FindPlace(const std::vector<IniLine>& lines, qsizetype textEnd, const QString& section,
+                   const QString& key) {
   IniPlace place;
-  TextLine line{0, 0, text.startsWith(ByteOrderMark) ? ByteOrderMark.size() : 0};
-  while (line.next < text.size()) {
-    line = LineAt(text, line.next);
-    const auto content = Trimmed(QByteArrayView(text).sliced(line.begin, line.end - line.begin));
-    if (content.isEmpty()) continue;
-    if (const auto name = SectionOf(content)) {
+  for (const IniLine& line : lines) {
+    if (line.isHead) {
       if (place.hasSection) return place;
-      place.hasSection = IsName(*name, section);
-    } else if (place.hasSection && HasKey(content, key)) {
-      return {true, true, line.begin, line.end};
+      place.hasSection = IsName(line.name, section);
+    } else if (place.hasSection && line.isEntry && IsName(line.name, key)) {
+      return {true, true, line.place.begin, line.place.end};
     }
-    if (place.hasSection) place.begin = place.end = line.next;
+    if (place.hasSection) place.begin = place.end = line.place.next;
   }
-  if (!place.hasSection) place.begin = place.end = text.size();
+  if (!place.hasSection) place.begin = place.end = textEnd;
   return place;
 }
 
@@ -107,7 +132,7 @@ QByteArray PrevailingLineEnd(const QByteArray& text) {
 }
 
 void PutIn(QByteArray& text, const IniEntry& entry, const QByteArray& lineEnd) {
-  const IniPlace place = FindPlace(text, entry.section, entry.key);
+  const IniPlace place = FindPlace(LinesOf(text), text.size(), entry.section, entry.key);
   QByteArray line = EntryLine(entry);
   if (!place.hasKey) {
     line += lineEnd;
@@ -121,10 +146,12 @@ void PutIn(QByteArray& text, const IniEntry& entry, const QByteArray& lineEnd) {
 
 }  // namespace
 
-QString FindIniValue(const QByteArray& text, const QString& section, const QString& key) {
-  const IniPlace place = FindPlace(text, section, key);
+IniValues::IniValues(const QByteArray& text) : text_(text), lines_(LinesOf(text)) {}
+
+QString IniValues::Value(const QString& section, const QString& key) const {
+  const IniPlace place = FindPlace(lines_, text_.size(), section, key);
   if (!place.hasKey) return {};
-  const auto line = QByteArrayView(text).sliced(place.begin, place.end - place.begin);
+  const auto line = QByteArrayView(text_).sliced(place.begin, place.end - place.begin);
   const auto value = WithoutQuotes(Trimmed(line.sliced(line.indexOf('=') + 1)));
   return FirstCharacters(TextFromBytes(value), LongestValue);
 }

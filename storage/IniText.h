@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include "storage/TextLines.h"
+
 // The dialect of all key/value files, over their bytes: "[section]" lines, "key=value" lines, ";"
 // comments. Names are compared without case, and the first match wins, of sections as of keys.
 // Bytes are UTF-8; a text that is not valid UTF-8 is read as Windows-1252.
@@ -15,11 +17,30 @@ struct IniEntry {
   QString value;
 };
 
-// The value without blanks around it and without one pair of quotes, at most 255 characters of it;
-// empty when there is none.
-QString FindIniValue(const QByteArray& text, const QString& section, const QString& key);
+// A line that is not blank: the head of a section, an entry, or neither. The name is that of the
+// section or the key.
+struct IniLine {
+  TextLine place;
+  bool isHead;
+  bool isEntry;
+  QByteArrayView name;
+};
+
+// The values of a text, which is looked through once.
+class IniValues {
+ public:
+  explicit IniValues(const QByteArray& text);
+
+  // Without blanks around it and without one pair of quotes, at most 255 characters of it; empty
+  // when there is none.
+  QString Value(const QString& section, const QString& key) const;
+
+ private:
+  QByteArray text_;
+  std::vector<IniLine> lines_;
+};
 
 // The text with the entries put in, in their order. Every other line stays as it is, byte for byte.
-// A value comes back from FindIniValue as it was given, except that a line break becomes a blank
+// A value comes back from IniValues as it was given, except that a line break becomes a blank
 // and what passes 255 characters is not read.
 QByteArray ReplaceIniValues(QByteArray text, const std::vector<IniEntry>& entries);

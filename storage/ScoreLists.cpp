@@ -20,10 +20,8 @@ QString TextOfTime(std::int32_t halfSeconds) {
   return QString::fromStdString(TimeString(halfSeconds));
 }
 
-ScoreRow ReadRow(const QByteArray& text, const QString& section, std::size_t row) {
-  const auto find = [&](const char* column) {
-    return FindIniValue(text, section, KeyOf(column, row));
-  };
+ScoreRow ReadRow(const IniValues& values, const QString& section, std::size_t row) {
+  const auto find = [&](const char* column) { return values.Value(section, KeyOf(column, row)); };
   const QString time = find("Time");
   const std::int32_t halfSeconds = LenientInt32(time);
   return {find("Name"), find("Moves"), time.isEmpty() ? QString() : TextOfTime(halfSeconds),
@@ -31,8 +29,9 @@ ScoreRow ReadRow(const QByteArray& text, const QString& section, std::size_t row
 }
 
 ScoreRows RowsFromText(const QByteArray& text, const QString& section) {
+  const IniValues values(text);
   ScoreRows rows;
-  for (std::size_t row = 0; row < rows.size(); ++row) rows[row] = ReadRow(text, section, row);
+  for (std::size_t row = 0; row < rows.size(); ++row) rows[row] = ReadRow(values, section, row);
   return rows;
 }
 

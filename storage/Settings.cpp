@@ -58,8 +58,9 @@ void AppendPlacement(std::vector<IniEntry>& entries, const WindowPlacement& plac
 
 void LoadSettings(const clsIniFile& iniFile, const QString& pathName,
                   const QString& programDirectory, Settings& settings) {
+  const IniValues values = iniFile.ReadIniFileValues(pathName);
   for (const SettingRow& row : SettingsTable()) {
-    SetFromText(row, Read(iniFile, pathName, row.section, row.key), programDirectory, settings);
+    SetFromText(row, values.Value(row.section, row.key), programDirectory, settings);
   }
 }
 

@@ -19,13 +19,16 @@ bool clsIniFile::ReadIniFileValue(const QString& strVvIniFilePathName,
     strRvErrorDescription = "Ini File '" + strVvIniFilePathName + "' Is Missing";
     return false;
   }
-  const QByteArray text = ReadIniStore(strVvIniFilePathName).bytes;
-  strRvValue = FindIniValue(text, strVvSectionName, strVvKeyName);
+  strRvValue = ReadIniFileValues(strVvIniFilePathName).Value(strVvSectionName, strVvKeyName);
   const qsizetype count = strRvValue.size();
   if (count > 0) return true;
   const QString place = PlaceText(strVvIniFilePathName, strVvSectionName, strVvKeyName);
   strRvErrorDescription = strRvValue.isEmpty() ? place + " Is Missing" : "Cannot Read " + place;
   return false;
+}
+
+IniValues clsIniFile::ReadIniFileValues(const QString& strVvIniFilePathName) const {
+  return IniValues(ReadIniStore(strVvIniFilePathName).bytes);
 }
 
 bool clsIniFile::WriteIniFileValue(const QString& strVvIniFilePathName,

@@ -16,6 +16,9 @@ class clsIniFile {
                         const QString& strVvKeyName, QString& strRvValue,
                         QString& strRvErrorDescription) const;
 
+  // Every value of the file, for whoever wants many of them; none when it cannot be read.
+  IniValues ReadIniFileValues(const QString& strVvIniFilePathName) const;
+
   // Makes the file, the section and the key as needed.
   bool WriteIniFileValue(const QString& strVvIniFilePathName, const QString& strVvSectionName,
                          const QString& strVvKeyName, const QString& strVvValue,

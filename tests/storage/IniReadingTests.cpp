@@ -4,7 +4,7 @@
 namespace {
 
 QString Value(const QByteArray& text, const QString& key = "Key") {
-  return FindIniValue(text, "S", key);
+  return IniValues(text).Value("S", key);
 }
 
 }  // namespace
@@ -21,8 +21,8 @@ TEST(IniValue, IsFoundWithEveryKindOfLineEnd) {
 }
 
 TEST(IniValue, IsFoundWithoutRegardToCase) {
-  EXPECT_EQ(FindIniValue("[high SCORES]\nNAME 1=Ann", "High Scores", "Name 1"), "Ann");
-  EXPECT_EQ(FindIniValue("[\xC3\x84]\n\xC3\xB6=1", QString("\u00e4"), QString("\u00d6")), "1");
+  EXPECT_EQ(IniValues("[high SCORES]\nNAME 1=Ann").Value("High Scores", "Name 1"), "Ann");
+  EXPECT_EQ(IniValues("[\xC3\x84]\n\xC3\xB6=1").Value(QString("\u00e4"), QString("\u00d6")), "1");
 }
 
 TEST(IniValue, IsNotFoundInAnotherSection) {

@@ -11,7 +11,7 @@ QByteArray Written(const QByteArray& text, const QString& value) {
 
 // What a value is after it was written and read.
 QString AndBack(const QString& value) {
-  return FindIniValue(Written("", value), "S", "Key");
+  return IniValues(Written("", value)).Value("S", "Key");
 }
 
 }  // namespace
