@@ -20,8 +20,7 @@ bool IsChoice(const QString& key) {
 
 }  // namespace
 
-void LoadChessboard(const clsIniFile& iniFile, const QString& pathName, Settings& settings) {
-  const IniValues values = iniFile.ReadIniFileValues(pathName);
+void LoadChessboard(const IniValues& values, Settings& settings) {
   for (const IniEntry& entry : ChessboardEntries(settings)) {
     const SettingRow& row = SettingOf(entry.key.toLatin1());
     const QString text = values.Value(entry.section, entry.key);

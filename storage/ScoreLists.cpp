@@ -28,13 +28,6 @@ ScoreRow ReadRow(const IniValues& values, const QString& section, std::size_t ro
           halfSeconds};
 }
 
-ScoreRows RowsFromText(const QByteArray& text, const QString& section) {
-  const IniValues values(text);
-  ScoreRows rows;
-  for (std::size_t row = 0; row < rows.size(); ++row) rows[row] = ReadRow(values, section, row);
-  return rows;
-}
-
 const ScoreRow& RowAt(const ScoreRows& rows, int place) {
   return rows[static_cast<std::size_t>(place)];
 }
@@ -71,8 +64,14 @@ QString ScoreSection(bool highScore) {
   return highScore ? "High Scores" : "Low Scores";
 }
 
+ScoreRows RowsFrom(const IniValues& values, const QString& section) {
+  ScoreRows rows;
+  for (std::size_t row = 0; row < rows.size(); ++row) rows[row] = ReadRow(values, section, row);
+  return rows;
+}
+
 ScoreRows ReadScores(const QString& pathName, const QString& section) {
-  return RowsFromText(ReadIniStore(pathName).bytes, section);
+  return RowsFrom(IniValues(ReadIniStore(pathName).bytes), section);
 }
 
 int InsertionPlace(const ScoreRows& rows, const OfferedGame& game) {
@@ -105,7 +104,7 @@ std::optional<ProgramError> SaveScore(const QString& pathName, const OfferedGame
                                       const QString& name) {
   const QString section = ScoreSection(game.highScore);
   return UpdateIniStore(pathName, [&](const QByteArray& text) {
-    ScoreRows rows = RowsFromText(text, section);
+    ScoreRows rows = RowsFrom(IniValues(text), section);
     const int place = InsertionPlace(rows, game);
     if (place == RowCount) return std::vector<IniEntry>();
     InsertScore(rows, place, RowOf(game, name));

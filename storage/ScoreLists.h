@@ -36,7 +36,8 @@ inline constexpr int MostLowMoves = 32;
 // "High Scores" or "Low Scores": the section of the file, and the caption of the list.
 QString ScoreSection(bool highScore);
 
-// The rows of a list; what the file does not have stays empty.
+// The rows of a list; what the values, or those of the file, do not have stays empty.
+ScoreRows RowsFrom(const IniValues& values, const QString& section);
 ScoreRows ReadScores(const QString& pathName, const QString& section);
 
 // The place 0..9 that the game takes among the rows, or 10 when it does not rank. A game that

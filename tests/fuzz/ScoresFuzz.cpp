@@ -1,5 +1,4 @@
 #include "storage/ScoreLists.h"
-#include "tests/fuzz/MemoryFile.h"
 
 namespace {
 
@@ -15,10 +14,11 @@ void Enter(ScoreRows rows, const OfferedGame& game) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const MemoryFile file(data, size);
+  const auto* text = reinterpret_cast<const char*>(data);
+  const IniValues values(QByteArray(text, static_cast<qsizetype>(size)));
   const auto moves = static_cast<std::int16_t>(size % 65);
   const bool highScore = size % 2 == 0;
-  const ScoreRows rows = ReadScores(file.PathName(), ScoreSection(highScore));
+  const ScoreRows rows = RowsFrom(values, ScoreSection(highScore));
   Enter(rows, {moves, static_cast<std::int32_t>(size), highScore});
   return 0;
 }

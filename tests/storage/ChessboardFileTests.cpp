@@ -5,9 +5,7 @@
 
 class AChessboardFile : public FolderTest {
  protected:
-  void Load(const QByteArray& text) {
-    LoadChessboard(clsIniFile(), Put("x.chessboard", text), settings_);
-  }
+  void Load(const QByteArray& text) { LoadChessboard(IniValues(text), settings_); }
 
   Settings settings_;
 };
@@ -63,7 +61,7 @@ TEST_F(AChessboardFile, IsReadBackAsItWasSaved) {
   settings_.CornerDistance = 0;
   EXPECT_EQ(SaveChessboard(PathOf("x"), settings_), std::nullopt);
   Settings loaded;
-  LoadChessboard(clsIniFile(), PathOf("x"), loaded);
+  LoadChessboard(clsIniFile().ReadIniFileValues(PathOf("x")), loaded);
   EXPECT_EQ(ValuesOf(ChessboardEntries(loaded)), ValuesOf(ChessboardEntries(settings_)));
 }
 
@@ -122,7 +120,7 @@ TEST_F(AChessboardFile, LeavesTheOtherSettingsAlone) {
 TEST_F(AChessboardFile, ResetsTheLookWhenItCannotBeRead) {
   settings_.LightColor = 1;
   settings_.UseBorders = true;
-  LoadChessboard(clsIniFile(), PathOf("missing"), settings_);
+  LoadChessboard(clsIniFile().ReadIniFileValues(PathOf("missing")), settings_);
   EXPECT_EQ(settings_.LightColor, SystemColor(0x16));
   EXPECT_TRUE(settings_.UseBorders);
 }

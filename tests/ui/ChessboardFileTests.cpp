@@ -44,7 +44,7 @@ class ChessboardFiles : public CommandTest {
 }  // namespace
 
 TEST_F(ChessboardFiles, HoldTheSixteenKeysInTheirOrder) {
-  LoadChessboard(globals.IniFile, FileWith("all", CompleteLook), globals.settings);
+  LoadChessboard(IniValues(CompleteLook), globals.settings);
   Save(FilePath("saved.chessboard"));
   EXPECT_EQ(BytesOf(FilePath("saved.chessboard")), CompleteLook);
 }
@@ -171,7 +171,7 @@ TEST_F(ChessboardFiles, TakeAnythingButOneForNo) {
 }
 
 TEST_F(ChessboardFiles, WithoutAnyKeyGiveTheDefaultsButForTheThreeChoices) {
-  LoadChessboard(globals.IniFile, FileWith("all", CompleteLook), globals.settings);
+  LoadChessboard(IniValues(CompleteLook), globals.settings);
   Open(FileWith("empty.chessboard", ""));
   const Settings defaults;
   EXPECT_EQ(settings.LightColor, defaults.LightColor);

@@ -27,7 +27,7 @@ void mnuEditChessboardOpen_Click(const CommandContext& context) {
       {.directory = directory, .filter = ChessboardFilter, .mustExist = false});
   if (fileName.isEmpty()) return;
   directory = DirectoryOf(fileName);
-  LoadChessboard(context.globals.IniFile, fileName, settings);
+  LoadChessboard(context.globals.IniFile.ReadIniFileValues(fileName), settings);
   StoreEverything(context);
   context.window.LoadGameSetup();
   context.window.RefreshHighlight();
