@@ -63,6 +63,26 @@ TEST_F(ScoresLook, ShowsTheNewRowInLargeBoldLetters) {
   EXPECT_FALSE(LabelAt(scores, "lblMoves", 1).font().bold());
 }
 
+TEST_F(ScoresLook, ShowsTheWholeNumberOfTheLastRowAlsoInBoldLetters) {
+  Open();
+  WriteScores("[Low Scores]\nName 10=Last\nMoves 10=1\nTime 10=0\n");
+  const QFont usual = QApplication::font();
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    QFont letters = usual;
+    letters.setPointSizeF(usual.pointSizeF() * scale);
+    QApplication::setFont(letters);
+    frmScores scores(Window().Context(), &Window());
+    scores.LoadLow();
+    scores.grab();
+    const QLabel& number = LabelAt(scores, "lblNumbers", 9);
+    EXPECT_EQ(number.text(), " 10.");
+    QFont bold = number.font();
+    bold.setBold(true);
+    EXPECT_GE(number.width(), QFontMetrics(bold).horizontalAdvance(number.text())) << scale;
+  }
+  QApplication::setFont(usual);
+}
+
 TEST_F(ScoresLook, GrowsWithTheLettersOfTheDesktop) {
   Open();
   const QFont usual = QApplication::font();

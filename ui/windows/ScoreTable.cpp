@@ -79,7 +79,7 @@ void ScoreTable::AddTitle(const char* name, int column, const QString& title) {
 void ScoreTable::SetColumnWidths() {
   const QFontMetrics metrics(BoldFont());
   const auto width = [&metrics](const char* text) { return metrics.size(0, text).width() + 1; };
-  grid_->setColumnMinimumWidth(Numbers, width("10."));
+  grid_->setColumnMinimumWidth(Numbers, width(" 10."));
   grid_->setColumnMinimumWidth(Names, width("A Name of Some Length"));
   grid_->setColumnMinimumWidth(Moves, width("Moves"));
   grid_->setColumnMinimumWidth(Times, width("000:00:00.0"));
