@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QSet>
@@ -78,6 +79,26 @@ QString TextOf(QWidget& window, const char* label) {
 }
 
 }  // namespace
+
+TEST_F(About, GrowsWithTheLettersOfTheDesktop) {
+  Open();
+  const QFont usual = QApplication::font();
+  const auto heights = [this] {
+    frmAbout window(globals, true, &Window());
+    QList<int> found;
+    for (const char* label : {"lblProgramTitle", "lblVersion", "lblDisclaimer", "lblOwner"}) {
+      found << Child<QLabel>(window, label).fontMetrics().height();
+    }
+    return found;
+  };
+  const QList<int> small = heights();
+  QFont large = usual;
+  large.setPointSizeF(usual.pointSizeF() * 2);
+  QApplication::setFont(large);
+  const QList<int> grown = heights();
+  QApplication::setFont(usual);
+  for (qsizetype i = 0; i < small.size(); ++i) EXPECT_GT(grown[i], small[i] * 3 / 2);
+}
 
 TEST_F(About, TellsWhatTheProgramIs) {
   Open();

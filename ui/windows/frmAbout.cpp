@@ -1,6 +1,8 @@
 #include "ui/windows/frmAbout.h"
 
+#include <QApplication>
 #include <QEvent>
+#include <QFontInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
@@ -25,7 +27,9 @@ const QString Disclaimer =
 const QString Owner = "Made by the Gallopade Nova contributors. MIT licence.";
 
 constexpr QSize PictureSize(300, 225);
+// On a desktop of the usual letters; with those of the desktop they grow and shrink.
 constexpr int TextWidth = 300;
+constexpr double UsualPoints = 9;
 constexpr int Gap = 16;
 constexpr int IconSide = 128;
 // A pass costs a fraction of a millisecond, so this leaves nearly all of a core to others.
@@ -36,6 +40,16 @@ QString VersionText() {
   return "Version" + QString::fromStdString(NumberText(version.major)) + "." +
          QString::number(version.minor) + " (Build" +
          QString::fromStdString(NumberText(version.revision)) + ".32bit." + BuildStamp + ")";
+}
+
+double LetterScale() {
+  return QFontInfo(QApplication::font()).pointSizeF() / UsualPoints;
+}
+
+QFont Arial(int points) {
+  QFont font("Arial");
+  font.setPointSizeF(points * LetterScale());
+  return font;
 }
 
 // Of a colour part that is 256 only 255 fits.
@@ -104,9 +118,9 @@ QLabel* frmAbout::AddLabel(const char* name, const QString& text, int points) {
   auto* label = new QLabel(text, this);
   label->setObjectName(name);
   label->setTextFormat(Qt::PlainText);
-  label->setFont(QFont("Arial", points));
+  label->setFont(Arial(points));
   label->setWordWrap(true);
-  label->setFixedWidth(TextWidth);
+  label->setFixedWidth(qRound(TextWidth * LetterScale()));
   return label;
 }
 
