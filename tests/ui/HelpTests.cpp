@@ -8,8 +8,11 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <gtest/gtest.h>
 
+#include "tests/ui/Contrast.h"
 #include "tests/ui/Desk.h"
 #include "ui/help/HelpPage.h"
 #include "ui/support/HelpKey.h"
@@ -39,6 +42,20 @@ class Help : public testing::Test {
     QStringList titles;
     for (int row = 0; row < results.count(); ++row) titles << results.item(row)->text();
     return titles;
+  }
+
+  void ExpectLegibleLinks() {
+    constexpr double SmallText = 4.5;
+    int links = 0;
+    for (QTextBlock block = Page().document()->begin(); block.isValid(); block = block.next()) {
+      for (const QTextLayout::FormatRange& range : block.textFormats()) {
+        if (!range.format.isAnchor()) continue;
+        const QColor color = range.format.foreground().color();
+        EXPECT_GE(Contrast(color, Page().palette().color(QPalette::Base)), SmallText);
+        ++links;
+      }
+    }
+    EXPECT_GT(links, 0);
   }
 
   frmHelp help;
@@ -125,6 +142,19 @@ TEST_F(Help, KeepsAPlaceWithinAPageMarkedThatWasChosenInTheTreeOfContents) {
   QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualRect(edit).center());
   EXPECT_EQ(Page().source().fragment(), "edit");
   EXPECT_EQ(tree.currentIndex(), edit);
+}
+
+TEST_F(Help, ShowsItsLinksLegiblyAlsoWhenTheDesktopTurnsDark) {
+  const QPalette usual = QApplication::palette();
+  help.ShowContents();
+  ExpectLegibleLinks();
+  QPalette dark = usual;
+  dark.setColor(QPalette::Base, QColor(20, 22, 24));
+  dark.setColor(QPalette::Text, QColor(252, 252, 252));
+  QApplication::setPalette(dark);
+  QCoreApplication::processEvents();
+  ExpectLegibleLinks();
+  QApplication::setPalette(usual);
 }
 
 TEST_F(Help, FollowsALinkAndGoesBackAndForward) {

@@ -1,5 +1,6 @@
 #include "ui/help/HelpPage.h"
 
+#include <QScrollBar>
 #include <QWheelEvent>
 
 #include "ui/help/HelpBook.h"
@@ -10,6 +11,14 @@ constexpr qreal SmallestPointSize = 6;
 constexpr qreal LargestPointSize = 40;
 constexpr int PageMargin = 16;
 
+// The blue that links have where the desktop says nothing else is lost on a dark page.
+QString LinkStyle(const QPalette& palette) {
+  constexpr int Middle = 128;
+  const bool darkOnDark = palette.color(QPalette::Base).lightness() < Middle &&
+                          palette.color(QPalette::Link).lightness() <= Middle;
+  return darkOnDark ? "a { color: #80b0ff; }" : "";
+}
+
 }  // namespace
 
 HelpPage::HelpPage(const HelpBook& book, QWidget* parent) : QTextBrowser(parent), book_(book) {
@@ -17,6 +26,11 @@ HelpPage::HelpPage(const HelpBook& book, QWidget* parent) : QTextBrowser(parent)
   setAccessibleName("Help page");
   setOpenExternalLinks(false);
   document()->setDocumentMargin(PageMargin);
+  MakeLinksLegible();
+}
+
+void HelpPage::MakeLinksLegible() {
+  document()->setDefaultStyleSheet(LinkStyle(palette()));
 }
 
 void HelpPage::ZoomBy(int steps) {
@@ -49,4 +63,14 @@ void HelpPage::wheelEvent(QWheelEvent* event) {
   const int turn = event->angleDelta().y();
   if (turn != 0) ZoomBy(turn > 0 ? 1 : -1);
   event->accept();
+}
+
+// A page takes the colours of the desktop when it is read.
+void HelpPage::changeEvent(QEvent* event) {
+  QTextBrowser::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange) return;
+  MakeLinksLegible();
+  const int place = verticalScrollBar()->value();
+  if (!source().isEmpty()) reload();
+  verticalScrollBar()->setValue(place);
 }

@@ -23,7 +23,10 @@ class HelpPage : public QTextBrowser {
   QVariant loadResource(int type, const QUrl& name) override;
   void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
   void wheelEvent(QWheelEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
+  void MakeLinksLegible();
+
   const HelpBook& book_;
 };
