@@ -11,35 +11,36 @@ namespace {
 struct SystemColorSource {
   std::optional<QPalette::ColorRole> role;
   QRgb classic;
+  QPalette::ColorGroup group = QPalette::Active;
 };
 
 // In the order of the system's colour indices.
 constexpr std::array<SystemColorSource, SystemColorCount> Sources{{
-    {std::nullopt, 0xC8C8C8},               // 0 scroll bar
-    {std::nullopt, 0x3A6EA5},               // 1 desktop
-    {std::nullopt, 0x0A246A},               // 2 active window title bar
-    {std::nullopt, 0x808080},               // 3 inactive window title bar
-    {QPalette::Window, 0xD4D0C8},           // 4 menu bar
-    {QPalette::Base, 0xFFFFFF},             // 5 window background
-    {std::nullopt, 0x000000},               // 6 window frame
-    {QPalette::WindowText, 0x000000},       // 7 menu text
-    {QPalette::Text, 0x000000},             // 8 window text
-    {std::nullopt, 0xFFFFFF},               // 9 title bar text
-    {std::nullopt, 0xD4D0C8},               // 10 active window border
-    {std::nullopt, 0xD4D0C9},               // 11 inactive window border
-    {std::nullopt, 0x7F7F7F},               // 12 application background
-    {QPalette::Highlight, 0x0A246A},        // 13 highlight
-    {QPalette::HighlightedText, 0xFFFFFF},  // 14 highlight text
-    {QPalette::Button, 0xD4D0C8},           // 15 3-D face
-    {std::nullopt, 0x808080},               // 16 3-D shadow
-    {std::nullopt, 0x808080},               // 17 disabled text
-    {QPalette::ButtonText, 0x000000},       // 18 button text
-    {std::nullopt, 0xD4D0C8},               // 19 inactive window title bar text
-    {QPalette::Light, 0xFFFFFF},            // 20 3-D highlight
-    {std::nullopt, 0x404040},               // 21 3-D dark shadow
-    {std::nullopt, 0xD4D0C8},               // 22 3-D light shadow
-    {QPalette::ToolTipText, 0x000000},      // 23 tooltip text
-    {QPalette::ToolTipBase, 0xFFFFE1},      // 24 tooltip background
+    {std::nullopt, 0xC8C8C8},                        // 0 scroll bar
+    {std::nullopt, 0x3A6EA5},                        // 1 desktop
+    {std::nullopt, 0x0A246A},                        // 2 active window title bar
+    {std::nullopt, 0x808080},                        // 3 inactive window title bar
+    {QPalette::Window, 0xD4D0C8},                    // 4 menu bar
+    {QPalette::Base, 0xFFFFFF},                      // 5 window background
+    {std::nullopt, 0x000000},                        // 6 window frame
+    {QPalette::WindowText, 0x000000},                // 7 menu text
+    {QPalette::Text, 0x000000},                      // 8 window text
+    {std::nullopt, 0xFFFFFF},                        // 9 title bar text
+    {std::nullopt, 0xD4D0C8},                        // 10 active window border
+    {std::nullopt, 0xD4D0C9},                        // 11 inactive window border
+    {std::nullopt, 0x7F7F7F},                        // 12 application background
+    {QPalette::Highlight, 0x0A246A},                 // 13 highlight
+    {QPalette::HighlightedText, 0xFFFFFF},           // 14 highlight text
+    {QPalette::Button, 0xD4D0C8},                    // 15 3-D face
+    {std::nullopt, 0x808080},                        // 16 3-D shadow
+    {QPalette::Text, 0x808080, QPalette::Disabled},  // 17 disabled text
+    {QPalette::ButtonText, 0x000000},                // 18 button text
+    {std::nullopt, 0xD4D0C8},                        // 19 inactive window title bar text
+    {QPalette::Light, 0xFFFFFF},                     // 20 3-D highlight
+    {std::nullopt, 0x404040},                        // 21 3-D dark shadow
+    {std::nullopt, 0xD4D0C8},                        // 22 3-D light shadow
+    {QPalette::ToolTipText, 0x000000},               // 23 tooltip text
+    {QPalette::ToolTipBase, 0xFFFFE1},               // 24 tooltip background
 }};
 
 // The five states of a square have these colours by default, and a player must be able to tell them
@@ -75,7 +76,7 @@ std::vector<QColor> Shades(const QPalette& palette) {
 
 QColor Plain(std::uint32_t index, const QPalette& palette) {
   const SystemColorSource& source = Sources[index];
-  return source.role ? palette.color(QPalette::Active, *source.role) : QColor(source.classic);
+  return source.role ? palette.color(source.group, *source.role) : QColor(source.classic);
 }
 
 // The desktop's colour, or the first of others that is apart from all that are taken. Those others
