@@ -83,10 +83,16 @@ int Storm::Pause() {
 
 void Storm::ActLater(frmGame& window) {
   QTimer::singleShot(Pause(), &clockOfPlayer_, [this, &window = window, alive = QPointer(&window)] {
-    if (alive.isNull() || !window.isVisible()) return;
+    if (alive.isNull()) return;
+    if (!window.isVisible()) return InspectEnd();
     ActLater(window);
     Act(window);
   });
+}
+
+// Nobody would find a dialog that has lost its main window.
+void Storm::InspectEnd() {
+  if (QApplication::activeModalWidget() != nullptr) journal_.Fail("a dialog has been left alone");
 }
 
 void Storm::Act(frmGame& window) {

@@ -32,6 +32,7 @@ class Storm {
   void Activate(QWidget& window);
   void CountAt(const QWidget& window);
   void Inspect(frmGame& window);
+  void InspectEnd();
   void FailOn(const std::string& complaint);
 
   Chance chance_;
