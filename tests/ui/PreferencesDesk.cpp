@@ -102,7 +102,7 @@ QColor ColorOf(QWidget& window, const char* widget) {
   return seen.pixelColor(seen.rect().center());
 }
 
-QColor RimColorOf(QWidget& window, const char* widget) {
+QColor EdgeColorOf(QWidget& window, const char* widget) {
   return Child<QWidget>(window, widget).grab().toImage().pixelColor(2, 2);
 }
 

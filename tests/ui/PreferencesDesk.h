@@ -43,9 +43,9 @@ class PreferencesDesk : public Desk {
 void Click(QWidget& window, const char* button);
 void RightClick(QWidget& window, const char* button);
 QString CaptionOf(QWidget& window, const char* button);
-// The colour in the middle of a widget, and that of its rim.
+// The colour in the middle of a widget, and that beside its corner.
 QColor ColorOf(QWidget& window, const char* widget);
-QColor RimColorOf(QWidget& window, const char* widget);
+QColor EdgeColorOf(QWidget& window, const char* widget);
 // One square of the preview board.
 QAbstractButton& Cell(QWidget& window, int x, int y);
 std::string SelectedSquare(QWidget& window);

@@ -142,11 +142,20 @@ TEST_F(PreferencesWindow, KeepsThePreviewsWhenTheyAreNoLongerUsed) {
   });
 }
 
-TEST_F(PreferencesWindow, ShowsTheColorAroundThePicture) {
+TEST_F(PreferencesWindow, StretchesThePictureOverTheWholeSwatch) {
   PictureFile("Wood Light.gif", Qt::red);
   Open("[Chessboard]\nLight Color=65280\n");
   InPreferences(
-      [](frmPreferences& window) { EXPECT_EQ(RimColorOf(window, "picLight"), QColor(Qt::green)); });
+      [](frmPreferences& window) { EXPECT_EQ(EdgeColorOf(window, "picLight"), QColor(Qt::red)); });
+}
+
+TEST_F(PreferencesWindow, ShowsTheColorAroundASmallPictureInTheMiddle) {
+  PictureFile("Wood Light.gif", Qt::red);
+  Open("[Chessboard]\nLight Color=65280\nImage Positioning=1\n");
+  InPreferences([](frmPreferences& window) {
+    EXPECT_EQ(ColorOf(window, "picLight"), QColor(Qt::red));
+    EXPECT_EQ(EdgeColorOf(window, "picLight"), QColor(Qt::green));
+  });
 }
 
 TEST_F(PreferencesWindow, ChoosesColors) {

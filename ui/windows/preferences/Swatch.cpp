@@ -8,7 +8,7 @@
 namespace {
 
 constexpr QSize SwatchSize(64, 40);
-constexpr int Rim = 5;
+constexpr int LineWidth = 1;
 
 }  // namespace
 
@@ -46,7 +46,7 @@ void PreviewImage::paintEvent(QPaintEvent*) {
 Swatch::Swatch(QWidget* parent) : QWidget(parent), image_(new PreviewImage(this)) {
   setFixedSize(SwatchSize);
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(Rim, Rim, Rim, Rim);
+  layout->setContentsMargins(LineWidth, LineWidth, LineWidth, LineWidth);
   layout->addWidget(image_);
 }
 

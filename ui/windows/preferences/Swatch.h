@@ -27,7 +27,7 @@ class PreviewImage : public QWidget {
   int positioning_ = 0;
 };
 
-// Shows a colour, and a picture over all of it but a rim.
+// Shows a colour within a line, and a picture over it.
 class Swatch : public QWidget {
  public:
   explicit Swatch(QWidget* parent);
