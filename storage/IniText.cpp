@@ -8,7 +8,7 @@
 namespace {
 
 constexpr qsizetype LongestValue = 255;
-const QByteArray ByteOrderMark = "\xEF\xBB\xBF";
+constexpr QByteArrayView ByteOrderMark = "\xEF\xBB\xBF";
 
 bool IsBlank(char byte) {
   return byte == ' ' || byte == '\t' || byte == '\v' || byte == '\f';

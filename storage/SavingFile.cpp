@@ -11,7 +11,7 @@
 
 namespace {
 
-const QString Prefix = ".gallopade-saving-";
+constexpr QLatin1StringView Prefix(".gallopade-saving-");
 constexpr mode_t ModeOfNewFiles = 0666;  // less the user's mask
 constexpr mode_t PermissionBits = 07777;
 
@@ -35,7 +35,7 @@ bool CopyMode(const QByteArray& from, int descriptor) {
 
 bool IsOurs(const QString& name) {
   bool endsInNumber = false;
-  name.mid(Prefix.size()).toUInt(&endsInNumber);
+  static_cast<void>(QStringView(name).mid(Prefix.size()).toUInt(&endsInNumber));
   return endsInNumber;
 }
 
@@ -90,7 +90,7 @@ bool SavingFile::TakePlaceOf(const QString& pathName) {
 
 void RemoveLeftSavingFiles(const QString& folder) {
   const QDir place(folder);
-  const QStringList names = place.entryList({Prefix + "*"}, QDir::Files | QDir::Hidden);
+  const QStringList names = place.entryList({Prefix + QString("*")}, QDir::Files | QDir::Hidden);
   for (const QString& name : names) {
     const QByteArray file = QFile::encodeName(place.filePath(name));
     if (IsOurs(name) && IsLeft(file)) unlink(file.constData());

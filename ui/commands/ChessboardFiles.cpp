@@ -4,7 +4,7 @@
 
 namespace {
 
-const QString ChessboardFilter =
+constexpr const char* ChessboardFilter =
     "Gallopade Nova Chessboards (*.chessboard;*.che)|*.chessboard;*.che|All Files (*.*)|*.*";
 
 void StoreEverything(const CommandContext& context) {

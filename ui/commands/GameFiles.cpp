@@ -7,7 +7,7 @@
 
 namespace {
 
-const QString GameFilter =
+constexpr const char* GameFilter =
     "Gallopade Nova Games (*.knight;*.kni)|*.knight;*.kni|All Files (*.*)|*.*";
 
 // Empty when the player cancelled.

@@ -6,7 +6,7 @@
 
 namespace {
 
-const QString ExportFilter =
+constexpr const char* ExportFilter =
     "Rich Text Format (*.rtf)|*.rtf|Plain Text (*.txt)|*.txt|All Files (*.*)|*.*";
 
 }  // namespace

@@ -5,7 +5,7 @@
 
 namespace {
 
-const QString VirtualFolder = "help";
+constexpr const char* VirtualFolder = "help";
 
 QUrl FirstOf(const QList<QHelpLink>& links) {
   return links.isEmpty() ? QUrl() : links.first().url;

@@ -106,13 +106,13 @@ class MenuBuilder {
     action->setMenuRole(QAction::NoRole);
     if (row.shortcut != nullptr) action->setShortcut(QKeySequence(row.shortcut));
     if (row.entry) entries_[static_cast<std::size_t>(*row.entry)] = action;
-    QObject::connect(action, &QAction::triggered, &window_, [&window = window_, action, row] {
-      const auto choose = [&window, action, row] { Choose(window, *action, row.handler); };
-      if (!QAccessible::isActive() || window.IsHandActing()) {
+    QObject::connect(action, &QAction::triggered, &window_, [window = &window_, action, row] {
+      const auto choose = [window, action, row] { Choose(*window, *action, row.handler); };
+      if (!QAccessible::isActive() || window->IsHandActing()) {
         choose();
       } else {
         // A screen reader that chose the entry waits for an answer, and not until a dialog closes.
-        QMetaObject::invokeMethod(&window, choose, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(window, choose, Qt::QueuedConnection);
       }
     });
   }

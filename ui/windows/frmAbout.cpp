@@ -16,15 +16,15 @@
 
 namespace {
 
-const QString Title = "Gallopade Nova";
-const QString Initials = "PVX";
-const QString BuildStamp = "050216-1945";
+constexpr const char* Title = "Gallopade Nova";
+constexpr const char* Initials = "PVX";
+constexpr const char* BuildStamp = "050216-1945";
 constexpr QPointF WordPlaces[] = {{100, 600}, {170, 1300}, {650, 2000}};
 
-const QString Disclaimer =
+constexpr const char* Disclaimer =
     "This software and the files that come with it are provided \"as is\", without warranties of "
     "any kind, express or implied. Whoever uses them does so at their own risk.";
-const QString Owner = "Made by the Gallopade Nova contributors. MIT licence.";
+constexpr const char* Owner = "Made by the Gallopade Nova contributors. MIT licence.";
 
 constexpr QSize PictureSize(300, 225);
 // On a desktop of the usual letters; with those of the desktop they grow and shrink.
@@ -74,9 +74,9 @@ frmAbout::frmAbout(const Globals& globals, bool manyColors, QWidget* mainWindow)
       picAboutImage_(new FireworkView(this)),
       ManyColors_(manyColors) {
   setObjectName("frmAbout");
-  setWindowTitle("About " + Title);
+  setWindowTitle(QString("About ") + Title);
   picAboutImage_->setObjectName("picAboutImage");
-  picAboutImage_->setAccessibleName("Picture of " + Title);
+  picAboutImage_->setAccessibleName(QString("Picture of ") + Title);
   picAboutImage_->setFixedSize(PictureSize);
   picAboutImage_->installEventFilter(this);
   auto* cmdOK = new QPushButton("OK", this);
@@ -188,7 +188,7 @@ void frmAbout::DrawInitials() {
 
 void frmAbout::DrawTitle() {
   drawingColor_ = ManyColors_ ? Qt::yellow : Qt::blue;
-  const QStringList words = Title.split(' ');
+  const QStringList words = QString(Title).split(' ');
   for (qsizetype i = 0; i < words.size(); ++i) {
     picAboutImage_->SetPoint(WordPlaces[i], drawingColor_);
     picAboutImage_->Print(words[i], FireworkFont(37, false, false), drawingColor_);

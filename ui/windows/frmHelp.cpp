@@ -18,8 +18,8 @@
 
 namespace {
 
-const QString HelpFileName = "GallopadeNova.hlp";
-const QString FirstPage = "welcome.html";
+constexpr const char* HelpFileName = "GallopadeNova.hlp";
+constexpr const char* FirstPage = "welcome.html";
 
 QSize DesignedSize(const QWidget& window) {
   const QFontMetrics metrics = window.fontMetrics();
@@ -49,7 +49,7 @@ frmHelp::frmHelp(const QString& programDirectory, QWidget* parent)
 frmHelp::~frmHelp() = default;
 
 void frmHelp::BuildError() {
-  auto* label = new QLabel("The help file " + HelpFileName + " could not be opened.\n\n" +
+  auto* label = new QLabel(QString("The help file ") + HelpFileName + " could not be opened.\n\n" +
                            book_.Error() + "\n\nIt belongs in the program's own folder.");
   label->setObjectName("helpError");
   label->setTextFormat(Qt::PlainText);

@@ -16,7 +16,7 @@ namespace {
 
 constexpr Color NoColor = -1;
 
-const QString ImageFilter =
+constexpr const char* ImageFilter =
     "All Readable Images|*.bmp; *.dib; *.rle; *.jpg; *.jpeg; *.gif; *.ico; *.cur|"
     "Web Images (*.jpg;*.jpeg;*.gif)|*.jpg; *.jpeg; *.gif|"
     "Icons (*.ico;*.cur)|*.ico; *.cur|"

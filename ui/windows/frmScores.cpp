@@ -19,7 +19,7 @@
 namespace {
 
 constexpr int RowCount = static_cast<int>(std::tuple_size_v<ScoreRows>);
-const QString NoName = "Enter Your Name";
+constexpr const char* NoName = "Enter Your Name";
 
 // The picture is shown at half its size, the table within its frame.
 constexpr QSize PictureSize(520, 390);

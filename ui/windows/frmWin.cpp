@@ -11,7 +11,7 @@
 
 namespace {
 
-const QString Text = "You Win!";
+constexpr const char* Text = "You Win!";
 constexpr QPointF TitlePlace(200, 1000);
 constexpr double TwipsPerPixel = 15;
 constexpr int OpeningPasses = 1001;
