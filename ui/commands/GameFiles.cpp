@@ -13,7 +13,7 @@ constexpr const char* GameFilter =
 // Empty when the player cancelled.
 QString ChooseGame(const CommandContext& context) {
   QString& directory = context.globals.settings.PreviousDirectory;
-  const QString fileName = context.dialogs.OpenFile({directory, GameFilter});
+  QString fileName = context.dialogs.OpenFile({directory, GameFilter});
   if (!fileName.isEmpty()) directory = DirectoryOf(fileName);
   return fileName;
 }

@@ -58,7 +58,7 @@ QString QtDialogs::SaveFile(const FileQuestion& question) {
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   while (dialog.exec() == QDialog::Accepted) {
-    const QString pathName = dialog.selectedFiles().value(0);
+    QString pathName = dialog.selectedFiles().value(0);
     if (QFileInfo(pathName).absoluteDir().exists()) return pathName;
     Tell(dialog.windowTitle(),
          pathName + "\nPath does not exist.\nVerify that it is the right one.",

@@ -64,8 +64,8 @@ void ValueLabel::paintEvent(QPaintEvent*) {
   painter.drawPixmap(0, 0, background_);
   const QString shown = text();
   double left = width();
-  for (auto character = shown.crbegin(); character != shown.crend(); ++character) {
-    const QPixmap& drawn = Character(*character);
+  for (qsizetype place = shown.size() - 1; place >= 0; --place) {
+    const QPixmap& drawn = Character(shown[place]);
     left -= drawn.width() / drawn.devicePixelRatio();
     painter.drawPixmap(QPointF(left, 0), drawn);
   }

@@ -124,7 +124,7 @@ void frmPreferences::ChooseImage(int owner) {
 
 QString frmPreferences::GetImages() {
   QString& directory = settings_.PreferencesPreviousDirectory;
-  const QString fileName = context_.dialogs.OpenFile(
+  QString fileName = context_.dialogs.OpenFile(
       {.directory = directory, .filter = ImageFilter, .mustExist = false});
   if (!fileName.isEmpty()) directory = DirectoryOf(fileName);
   return fileName;
