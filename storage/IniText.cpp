@@ -53,7 +53,7 @@ IniLine LineFrom(QByteArrayView content, const TextLine& place) {
   return {place, section.has_value(), key.has_value(), Trimmed(name)};
 }
 
-// The lines that are not blank; their names lie in the text.
+// The lines that are not blank.
 std::vector<IniLine> LinesOf(const QByteArray& text) {
   std::vector<IniLine> lines;
   TextLine line{0, 0, text.startsWith(ByteOrderMark) ? ByteOrderMark.size() : 0};

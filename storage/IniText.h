@@ -17,8 +17,8 @@ struct IniEntry {
   QString value;
 };
 
-// A line that is not blank: the head of a section, an entry, or neither. The name is that of the
-// section or the key.
+// A line that is not blank: the head of a section, an entry, or neither. The name, that of the
+// section or the key, lies in the text.
 struct IniLine {
   TextLine place;
   bool isHead;
@@ -36,7 +36,7 @@ class IniValues {
   QString Value(const QString& section, const QString& key) const;
 
  private:
-  QByteArray text_;
+  QByteArray text_;  // shared by every copy, so that the names in lines_ stay where they are
   std::vector<IniLine> lines_;
 };
 

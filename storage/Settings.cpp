@@ -11,18 +11,8 @@ namespace {
 
 constexpr double SlowestAdvance = 20.0;
 
-// Empty when there is none.
-QString Read(const clsIniFile& iniFile, const QString& pathName, const char* section,
-             const char* key) {
-  QString value;
-  QString ignoredError;
-  iniFile.ReadIniFileValue(pathName, section, key, value, ignoredError);
-  return value;
-}
-
-std::optional<double> ReadTwips(const clsIniFile& iniFile, const QString& pathName,
-                                const char* key) {
-  const QString text = Read(iniFile, pathName, "Settings", key);
+std::optional<double> ReadTwips(const IniValues& values, const char* key) {
+  const QString text = values.Value("Settings", key);
   if (text.isEmpty()) return std::nullopt;
   return LenientNumber(text);
 }
@@ -65,11 +55,12 @@ void LoadSettings(const clsIniFile& iniFile, const QString& pathName,
 }
 
 WindowPlacement ReadWindowPlacement(const clsIniFile& iniFile, const QString& pathName) {
-  return {.Left = ReadTwips(iniFile, pathName, "Left"),
-          .Top = ReadTwips(iniFile, pathName, "Top"),
-          .Height = ReadTwips(iniFile, pathName, "Height"),
-          .Width = ReadTwips(iniFile, pathName, "Width"),
-          .State = LenientInt32(Read(iniFile, pathName, "Settings", "State"))};
+  const IniValues values = iniFile.ReadIniFileValues(pathName);
+  return {.Left = ReadTwips(values, "Left"),
+          .Top = ReadTwips(values, "Top"),
+          .Height = ReadTwips(values, "Height"),
+          .Width = ReadTwips(values, "Width"),
+          .State = LenientInt32(values.Value("Settings", "State"))};
 }
 
 std::vector<IniEntry> ExitEntries(const Settings& settings, const WindowPlacement& placement,
@@ -126,11 +117,12 @@ std::vector<IniEntry> ChessboardEntries(const Settings& settings) {
 }
 
 ReplaySettings ReadReplaySettings(const clsIniFile& iniFile, const QString& pathName) {
+  const IniValues values = iniFile.ReadIniFileValues(pathName);
   ReplaySettings replay;
-  const QString speed = Read(iniFile, pathName, "Replay", "Advance Speed");
+  const QString speed = values.Value("Replay", "Advance Speed");
   const double number = LenientNumber(speed);
   if (!speed.isEmpty() && number >= 0.0 && number <= SlowestAdvance) replay.AdvanceSpeed = speed;
-  replay.manual = LenientNumber(Read(iniFile, pathName, "Replay", "Advancement")) != 0.0;
+  replay.manual = LenientNumber(values.Value("Replay", "Advancement")) != 0.0;
   return replay;
 }
 
