@@ -126,6 +126,20 @@ TEST_F(ReplayWindow, EndsWithTheFirstTickOverAGameOfOneSquare) {
   });
 }
 
+TEST_F(ReplayWindow, CanBeRestartedOverAGameOfOneSquare) {
+  Watch(1, [&](frmReplay& replay) {
+    replay.tmrAdvance_Timer();
+    replay.cmdRestart_Click();
+    EXPECT_TRUE(Shown(replay).Timer().isActive());
+    EXPECT_TRUE(Shown(replay).IsOn("cmdAdvancePause"));
+    EXPECT_TRUE(Shown(replay).IsOn("cmdFinish"));
+    EXPECT_FALSE(Shown(replay).IsOn("cmdRestart"));
+    replay.tmrAdvance_Timer();
+    EXPECT_FALSE(Shown(replay).Timer().isActive());
+    EXPECT_FALSE(Shown(replay).IsOn("cmdFinish"));
+  });
+}
+
 TEST_F(ReplayWindow, CanSeekNothingInAGameOfOneSquare) {
   Keep("5", "1");
   Watch(1, [&](frmReplay& replay) {

@@ -156,7 +156,8 @@ bool frmReplay::StepTowardsGoal() {
 void frmReplay::ShowPosition() {
   lblMoveValue_->ShowValue(QString::number(ReplayPosition()));
   lblMoveValue_Change();
-  const bool finished = ReplayPosition() == replayTotal_;
+  // A restarted replay is on offer again, even of one square: its first step ends it.
+  const bool finished = ReplayPosition() == replayTotal_ && !goal_.restart;
   if (finished) tmrAdvance_->stop();
   cmdAdvancePause_->setEnabled(!finished);
   cmdFinish_->setEnabled(!finished);
