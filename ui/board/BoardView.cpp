@@ -76,11 +76,6 @@ int BoardView::SquareOfInterest() const {
   return hasKnight ? SquareIndex(state_.KnightX, state_.KnightY) : -1;
 }
 
-void BoardView::ShowChangesNow() {
-  const BoardModel::CellSet changes = model_.TakeChanges();
-  if (changes != 0) repaint(RegionOf(changes));
-}
-
 QRegion BoardView::RegionOf(BoardModel::CellSet cells) const {
   QRegion region;
   const auto spans = CellSpans(layout_, devicePixelRatioF());

@@ -29,9 +29,8 @@ class BoardView : public QWidget {
   void SetCornerDistance(int cornerDistance) { cornerDistance_ = cornerDistance; }
   // Fits the squares to the height of the view.
   void LayOut(const BoardLook& look);
-  // Has the cells painted that changed since the last call: with the next events, or at once.
+  // Has the cells painted with the next events that changed since the last call.
   void ShowChanges();
-  void ShowChangesNow();
 
   // Logical pixels, relative to the view.
   QRect SquareRectangle(int index) const;
