@@ -12,7 +12,7 @@ class CommandLine : public GameTest {
     game.Form_Load(commandLine);
     const Steps steps = TakeLog();
     const auto drawn = std::find(steps.rbegin(), steps.rend(), "RestoreColors -1 -1");
-    return {drawn.base(), steps.end()};
+    return Steps(drawn.base(), steps.end());
   }
 };
 

@@ -48,6 +48,7 @@ TEST_F(ValidMove, EndsTheGameInOrder) {
   PlayTour(game, 63);
   window.log.clear();
   game.ValidMove(2, 7);
+  const std::string congratulations = "Congratulations, you have mastered Gallopade Nova.";
   EXPECT_EQ(TakeLog(), (Steps{
                            "mnuEditUndo on",
                            "mnuViewHistory on",
@@ -65,8 +66,7 @@ TEST_F(ValidMove, EndsTheGameInOrder) {
                            "mnuFileAutoplay off",
                            "mnuFileSolve off",
                            "clock off",
-                           "EndGame &Submit to Scores|Congratulations, you have mastered Gallopade "
-                           "Nova.|64|0",
+                           "EndGame &Submit to Scores|" + congratulations + "|64|0",
                        }));
 }
 

@@ -18,6 +18,7 @@ GameState GameOf(const std::vector<MoveRow>& moves) {
 
 std::vector<MoveRow> MovesOf(const TourSearch& search) {
   std::vector<MoveRow> moves;
+  moves.reserve(static_cast<std::size_t>(search.MoveCount()));
   for (int i = 0; i < search.MoveCount(); ++i) moves.push_back(search.Move(i));
   return moves;
 }

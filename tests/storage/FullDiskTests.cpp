@@ -7,7 +7,7 @@
 namespace {
 
 constexpr int DiskKilobytes = 64;
-constexpr int PageBytes = 4096;
+constexpr qint64 PageBytes = 4096;
 
 }  // namespace
 
@@ -34,7 +34,7 @@ class OnAFullDisk : public FolderTest {
   }
   void Free(int pages) const {
     QFile filler(PathOf("filler"));
-    EXPECT_TRUE(filler.resize(filler.size() - qint64{pages} * PageBytes));
+    EXPECT_TRUE(filler.resize(filler.size() - pages * PageBytes));
   }
 };
 

@@ -119,7 +119,7 @@ TEST_F(TheIniFile, IsRefusedWhenItIsHugeAndLeftAsItIs) {
 
 TEST_F(TheIniFile, DoesNotGrowBeyondWhatCanBeRead) {
   const QString path = Put("x.ini", "[S]\nKey=1\n");
-  EXPECT_NE(ErrorOfWriting(path, QString(2 * 1024 * 1024, 'x')), "");
+  EXPECT_NE(ErrorOfWriting(path, QString(2LL * 1024 * 1024, 'x')), "");
   EXPECT_EQ(ContentOf(path), "[S]\nKey=1\n");
 }
 

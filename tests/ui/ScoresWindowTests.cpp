@@ -8,12 +8,10 @@ namespace {
 
 class ScoresWindow : public EndgameDesk {
  protected:
-  ScoresWindow() { empty_ = QStringList(10, QString()); }
-
   // Ten texts that begin with those given.
   QStringList Ten(const QStringList& first) const { return first + empty_.mid(first.size()); }
 
-  QStringList empty_;
+  const QStringList empty_ = QStringList(10, QString());
 };
 
 constexpr const char* TwoScores =
