@@ -65,6 +65,7 @@ void Game::AnnounceEnd() {
 void Game::SetupFirstMove() {
   if (options_.StartingPosition == 1) {
     state_.FirstMoveMade = false;
+    state_.KnightX = state_.KnightY = 0;
   } else if (options_.StartingPosition == 0) {
     ValidMove(StartingCoordinate(options_.StartingX), StartingCoordinate(options_.StartingY));
     state_.FirstMoveMade = true;

@@ -1,6 +1,3 @@
-#include <utility>
-#include <vector>
-
 #include "core/Keyboard.h"
 #include "tests/support/GameTest.h"
 
@@ -166,17 +163,6 @@ TEST_F(Keyboard, BeginsInTheFirstSquareAgainAfterTheFirstMoveIsUndone) {
   TakeBack();
   Press(39);
   EXPECT_EQ(Cursor(), "A8");
-}
-
-TEST_F(Keyboard, StepsBackFromWhereTheKnightWasLeftByTheGameBefore) {
-  for (const auto& [key, square] : std::vector<std::pair<int, const char*>>{
-           {37, "D6"}, {38, "E7"}, {36, "A6"}, {33, "E8"}, {39, "A8"}, {34, "A1"}}) {
-    Begin(StartOnPlayersChoice);
-    ClickOn("E6");
-    game.StartNewGame();
-    Press(key);
-    EXPECT_EQ(Cursor(), square) << key;
-  }
 }
 
 TEST_F(Keyboard, ClicksOnTheCursor) {
