@@ -3,10 +3,11 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <sanitizer/common_interface_defs.h>
 #include <unistd.h>
 
 // Only there when the program runs under a sanitizer.
-extern "C" __attribute__((weak)) void __sanitizer_set_death_callback(void (*callback)());
+#pragma weak __sanitizer_set_death_callback
 
 namespace {
 

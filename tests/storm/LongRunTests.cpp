@@ -21,6 +21,7 @@
 namespace {
 
 constexpr std::int64_t Minute = 60'000;
+constexpr std::int64_t Hour = 60 * Minute;
 constexpr std::int64_t WarmUp = 10 * Minute;
 constexpr long MostGrowthInKilobytes = 2048;
 
@@ -157,7 +158,7 @@ class LongRun : public testing::Test {
     };
     playUntil(WarmUp);
     early_ = Measure(*stage_);
-    playUntil(HoursToPlay() * 60 * Minute);
+    playUntil(HoursToPlay() * Hour);
     late_ = Measure(*stage_);
     stage_->LookAway();
     stage_->Settle(1000);
