@@ -1,6 +1,7 @@
 // From the last move to the list that is opened again, with every way of closing every window.
 
 #include <QFile>
+#include <QLabel>
 #include <QTest>
 
 #include "storage/ScoreLists.h"
