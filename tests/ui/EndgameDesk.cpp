@@ -1,6 +1,7 @@
 #include "tests/ui/EndgameDesk.h"
 
 #include <QFile>
+#include <QLabel>
 #include <QTest>
 
 void EndgameDesk::PlayOnBoard(std::string_view squares) {

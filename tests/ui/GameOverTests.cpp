@@ -1,3 +1,4 @@
+#include <QLabel>
 #include <QTest>
 
 #include "tests/ui/EndgameDesk.h"

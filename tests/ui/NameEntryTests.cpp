@@ -1,4 +1,5 @@
 #include <QFile>
+#include <QLabel>
 #include <QTest>
 
 #include "tests/ui/EndgameDesk.h"

@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QTest>
 
 #include "storage/ScoreLists.h"

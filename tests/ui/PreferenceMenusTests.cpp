@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QTest>
 
 #include "tests/ui/PreferencesDesk.h"

@@ -1,3 +1,4 @@
+#include <QAbstractButton>
 #include <QFile>
 #include <QMenu>
 #include <QProcess>

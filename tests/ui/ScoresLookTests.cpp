@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QLabel>
 
 #include "tests/ui/Contrast.h"
 #include "tests/ui/EndgameDesk.h"

@@ -1,5 +1,6 @@
 #include <QAccessible>
 #include <QFile>
+#include <QLabel>
 #include <QTest>
 
 #include "tests/ui/EndgameDesk.h"

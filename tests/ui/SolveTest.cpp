@@ -15,7 +15,7 @@ void SolveTest::Open(std::string_view squares, int refreshRate) {
 }
 
 void SolveTest::InYield(int number, std::function<void()> action) {
-  window.onDoEvents = [this, yields = 0, number, action = std::move(action)]() mutable {
+  window.onDoEvents = [yields = 0, number, action = std::move(action)]() mutable {
     if (++yields == number) action();
   };
 }
