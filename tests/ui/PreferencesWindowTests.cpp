@@ -218,9 +218,9 @@ TEST_F(PreferencesWindow, LooksForImagesOfEveryReadableKindWhereTheLastOneWas) {
       auto& dialog = dynamic_cast<QFileDialog&>(modal);
       EXPECT_EQ(dialog.directory().path(), ProgramFile("mine"));
       EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "");
+      const QString readable = "*.bmp *.dib *.rle *.jpg *.jpeg *.gif *.ico *.cur";
       EXPECT_EQ(dialog.nameFilters(),
-                (QStringList{"All Readable Images (*.bmp *.dib *.rle *.jpg *.jpeg *.gif *.ico "
-                             "*.cur)",
+                (QStringList{"All Readable Images (" + readable + ")",
                              "Web Images (*.jpg;*.jpeg;*.gif) (*.jpg *.jpeg *.gif)",
                              "Icons (*.ico;*.cur) (*.ico *.cur)",
                              "Windows Images (*.bmp;*.dib;*.rle) (*.bmp *.dib *.rle)",

@@ -14,11 +14,14 @@ constexpr bool HeapCanBeCounted = false;  // it is the sanitizer's
 #else
 constexpr bool HeapCanBeCounted = true;
 
+// The heap of the C library under its own names.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);
 void* __libc_realloc(void* memory, std::size_t size);
 }
+// NOLINTEND(bugprone-reserved-identifier)
 #endif
 
 namespace {

@@ -42,7 +42,7 @@ class ReplayDesk : public Desk {
   }
 
   QString GameOf(const QByteArray& moves) {
-    const QString pathName = ProgramFile("game.knight");
+    QString pathName = ProgramFile("game.knight");
     QFile file(pathName);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("7\r\n" + moves + "-1 -1\r\n");
