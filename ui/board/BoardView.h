@@ -29,7 +29,7 @@ class BoardView : public QWidget {
   void SetCornerDistance(int cornerDistance) { cornerDistance_ = cornerDistance; }
   // Fits the squares to the height of the view.
   void LayOut(const BoardLook& look);
-  // Has the cells painted with the next events that changed since the last call.
+  // Has the cells that changed since the last call painted with the next events.
   void ShowChanges();
 
   // Logical pixels, relative to the view.
