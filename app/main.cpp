@@ -3,7 +3,7 @@
 #include <QIcon>
 
 #include "app/Globals.h"
-#include "ui/windows/frmGame.h"
+#include "ui/windows/game/frmGame.h"
 
 namespace {
 

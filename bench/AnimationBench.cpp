@@ -3,8 +3,8 @@
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
-#include "ui/windows/frmGame.h"
-#include "ui/windows/frmWin.h"
+#include "ui/windows/animations/frmWin.h"
+#include "ui/windows/game/frmGame.h"
 
 namespace {
 

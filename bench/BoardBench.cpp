@@ -8,7 +8,7 @@
 #include "core/Square.h"
 #include "ui/board/BoardModel.h"
 #include "ui/board/BoardView.h"
-#include "ui/windows/frmGame.h"
+#include "ui/windows/game/frmGame.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 
 #include "app/Globals.h"
-#include "ui/windows/frmGame.h"
+#include "ui/windows/game/frmGame.h"
 
 // What a search came to until it was stopped.
 struct SearchReport {

@@ -3,7 +3,7 @@
 #include "tests/storm/Chance.h"
 #include "tests/storm/Journal.h"
 #include "tests/storm/ProgramFolder.h"
-#include "ui/windows/frmGame.h"
+#include "ui/windows/game/frmGame.h"
 
 // What a random player holds: dice, a pencil, and the program.
 struct Hand {

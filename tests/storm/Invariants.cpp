@@ -6,7 +6,7 @@
 #include <QWidget>
 
 #include "app/Globals.h"
-#include "ui/windows/frmGame.h"
+#include "ui/windows/game/frmGame.h"
 
 namespace {
 

@@ -12,7 +12,7 @@
 
 #include "app/Globals.h"
 #include "tests/storm/Invariants.h"
-#include "ui/windows/frmGame.h"
+#include "ui/windows/game/frmGame.h"
 
 // The program in a directory of its own, brought to a moment at which something is then tried. What
 // windows open on the way is played from a script; when the script is over, every window that opens

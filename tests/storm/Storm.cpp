@@ -8,7 +8,7 @@
 #include <QTimer>
 
 #include "tests/storm/Hand.h"
-#include "ui/windows/frmHelp.h"
+#include "ui/help/frmHelp.h"
 
 namespace {
 

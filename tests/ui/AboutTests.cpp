@@ -5,8 +5,8 @@
 #include <QTest>
 
 #include "tests/ui/Desk.h"
-#include "ui/support/Firework.h"
-#include "ui/windows/frmAbout.h"
+#include "ui/windows/animations/Canvas.h"
+#include "ui/windows/animations/frmAbout.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ class About : public Desk {
   }
 
   static QImage Picture(QWidget& window) {
-    return Child<FireworkView>(window, "picAboutImage").Picture().toImage();
+    return Child<Canvas>(window, "picAboutImage").Picture().toImage();
   }
 
   static void DoubleClick(QWidget& window) {
@@ -60,7 +60,7 @@ class About : public Desk {
   QSet<QRgb> ColorsOfPasses(bool manyColors, int passes) {
     Open();
     frmAbout window(globals, manyColors, &Window());
-    auto& view = Child<FireworkView>(window, "picAboutImage");
+    auto& view = Child<Canvas>(window, "picAboutImage");
     view.Clear(Qt::black);
     window.picAboutImage_DblClick();
     for (int pass = 0; pass < passes; ++pass) MakePass(window);
@@ -236,7 +236,7 @@ TEST_F(About, RestsItsAnimationWhileItIsNotSeen) {
 TEST_F(About, PutsTheTwoWordsOfTheTitleIntoTheirPlaces) {
   Open();
   frmAbout window(globals, true, &Window());
-  auto& view = Child<FireworkView>(window, "picAboutImage");
+  auto& view = Child<Canvas>(window, "picAboutImage");
   view.Clear(Qt::black);
   window.picAboutImage_DblClick();
   EXPECT_TRUE(

@@ -4,25 +4,25 @@
 #include <QScreen>
 #include <gtest/gtest.h>
 
-#include "ui/support/Firework.h"
+#include "ui/windows/animations/Canvas.h"
 
 namespace {
 
-QColor ColorAt(const FireworkView& view, int x, int y) {
+QColor ColorAt(const Canvas& view, int x, int y) {
   return view.Picture().toImage().pixelColor(x, y);
 }
 
 }  // namespace
 
-TEST(Firework, MeasuresInTwips) {
-  FireworkView view(nullptr);
+TEST(CanvasTests, MeasuresInTwips) {
+  Canvas view(nullptr);
   view.resize(100, 60);
   EXPECT_EQ(view.ScaleWidth(), 1500);
   EXPECT_EQ(view.ScaleHeight(), 900);
 }
 
-TEST(Firework, SetsAPointWhereItIsTold) {
-  FireworkView view(nullptr);
+TEST(CanvasTests, SetsAPointWhereItIsTold) {
+  Canvas view(nullptr);
   view.resize(20, 20);
   view.Clear(Qt::black);
   view.SetPoint(QPointF(150, 75), Qt::red);
@@ -30,8 +30,8 @@ TEST(Firework, SetsAPointWhereItIsTold) {
   EXPECT_EQ(ColorAt(view, 11, 5), QColor(Qt::black));
 }
 
-TEST(Firework, ForgetsPointsOutsideTheView) {
-  FireworkView view(nullptr);
+TEST(CanvasTests, ForgetsPointsOutsideTheView) {
+  Canvas view(nullptr);
   view.resize(20, 20);
   view.Clear(Qt::black);
   view.SetPoint(QPointF(-400, -200), Qt::red);
@@ -39,12 +39,12 @@ TEST(Firework, ForgetsPointsOutsideTheView) {
   EXPECT_EQ(ColorAt(view, 0, 0), QColor(Qt::black));
 }
 
-TEST(Firework, PrintsBelowAndToTheRightOfThePoint) {
-  FireworkView view(nullptr);
+TEST(CanvasTests, PrintsBelowAndToTheRightOfThePoint) {
+  Canvas view(nullptr);
   view.resize(100, 100);
   view.Clear(Qt::black);
   view.SetPoint(QPointF(600, 600), Qt::black);
-  view.Print("M", FireworkFont(20, true, false), Qt::white);
+  view.Print("M", CanvasFont(20, true, false), Qt::white);
   const QImage picture = view.Picture().toImage();
   int lit = 0;
   for (int y = 0; y < 100; ++y) {
@@ -58,8 +58,8 @@ TEST(Firework, PrintsBelowAndToTheRightOfThePoint) {
   EXPECT_GT(lit, 0);
 }
 
-TEST(Firework, ChoosesPlacesALittleBeyondTheLeftAndTheUpperEdge) {
-  FireworkView view(nullptr);
+TEST(CanvasTests, ChoosesPlacesALittleBeyondTheLeftAndTheUpperEdge) {
+  Canvas view(nullptr);
   view.resize(100, 100);
   Random random;
   bool left = false;
@@ -77,13 +77,13 @@ TEST(Firework, ChoosesPlacesALittleBeyondTheLeftAndTheUpperEdge) {
   EXPECT_TRUE(above);
 }
 
-TEST(Firework, KnowsSevenPaletteColours) {
+TEST(CanvasTests, KnowsSevenPaletteColours) {
   Random random;
   std::set<QRgb> colors;
   for (int i = 0; i < 1000; ++i) colors.insert(RandomPaletteColor(random).rgb());
   EXPECT_EQ(colors.size(), 7U);
 }
 
-TEST(Firework, HasManyColoursOnTodaysScreens) {
+TEST(CanvasTests, HasManyColoursOnTodaysScreens) {
   EXPECT_TRUE(HasManyColors(*QGuiApplication::primaryScreen()));
 }

@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Globals.h"
-#include "ui/windows/frmGame.h"
+#include "ui/windows/game/frmGame.h"
 
 // A desk with the program on it: the real main window, offscreen, in a program directory of its
 // own, and a visitor who deals with the modal windows that open, one after the other.

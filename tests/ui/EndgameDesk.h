@@ -7,8 +7,8 @@
 
 #include "tests/support/Games.h"
 #include "tests/ui/Desk.h"
-#include "ui/windows/NameBox.h"
-#include "ui/windows/frmScores.h"
+#include "ui/windows/scores/NameBox.h"
+#include "ui/windows/scores/frmScores.h"
 
 // A desk where games come to their end and score lists are looked at.
 class EndgameDesk : public Desk {

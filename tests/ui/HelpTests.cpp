@@ -14,9 +14,9 @@
 
 #include "tests/ui/Contrast.h"
 #include "tests/ui/Desk.h"
+#include "ui/application/HelpKey.h"
 #include "ui/help/HelpPage.h"
-#include "ui/support/HelpKey.h"
-#include "ui/windows/frmHelp.h"
+#include "ui/help/frmHelp.h"
 
 namespace {
 

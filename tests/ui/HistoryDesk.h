@@ -5,7 +5,7 @@
 
 #include "tests/support/Games.h"
 #include "tests/ui/Desk.h"
-#include "ui/windows/frmHistory.h"
+#include "ui/windows/history/frmHistory.h"
 
 // The move history or the command history of a game on the desk.
 class HistoryDesk : public Desk {

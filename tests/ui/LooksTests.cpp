@@ -8,8 +8,8 @@
 #include "tests/ui/Contrast.h"
 #include "tests/ui/PreferencesDesk.h"
 #include "ui/board/BoardView.h"
-#include "ui/support/Pictures.h"
-#include "ui/support/SystemColors.h"
+#include "ui/board/SystemColors.h"
+#include "ui/widgets/Pictures.h"
 
 namespace {
 

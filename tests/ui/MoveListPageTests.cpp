@@ -3,7 +3,7 @@
 #include <QStandardPaths>
 #include <gtest/gtest.h>
 
-#include "ui/support/MoveListPage.h"
+#include "ui/windows/history/MoveListPage.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include <QTest>
 
 #include "tests/ui/PreferencesDesk.h"
-#include "ui/support/SystemColors.h"
+#include "ui/board/SystemColors.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <QMenu>
 
 #include "tests/ui/Desk.h"
-#include "ui/windows/frmPreferences.h"
+#include "ui/windows/preferences/frmPreferences.h"
 
 // A desk where the preferences are opened and worked with.
 class PreferencesDesk : public Desk {

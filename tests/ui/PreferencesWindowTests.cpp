@@ -7,7 +7,7 @@
 
 #include "tests/ui/PreferencesDesk.h"
 #include "ui/board/BoardView.h"
-#include "ui/support/SystemColors.h"
+#include "ui/board/SystemColors.h"
 
 namespace {
 

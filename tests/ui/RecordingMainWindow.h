@@ -6,9 +6,9 @@
 #include <string>
 
 #include "tests/support/RecordingWindow.h"
+#include "ui/commands/Dialogs.h"
 #include "ui/commands/MainWindow.h"
 #include "ui/commands/SecondaryWindows.h"
-#include "ui/support/Dialogs.h"
 
 // A main window without a window, which writes down what commands ask of it.
 class RecordingMainWindow : public Recording<MainWindow> {

@@ -6,8 +6,8 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "ui/windows/frmGame.h"
 #include "ui/windows/frmSolve.h"
+#include "ui/windows/game/frmGame.h"
 
 #ifdef __SANITIZE_ADDRESS__
 constexpr bool HeapCanBeCounted = false;  // it is the sanitizer's

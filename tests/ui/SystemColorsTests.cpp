@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "storage/Settings.h"
-#include "ui/support/SystemColors.h"
+#include "ui/board/SystemColors.h"
 
 namespace {
 

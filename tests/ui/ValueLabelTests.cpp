@@ -2,7 +2,7 @@
 #include <QGroupBox>
 #include <gtest/gtest.h>
 
-#include "ui/support/ValueLabel.h"
+#include "ui/widgets/ValueLabel.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 #include <QTimer>
 
 #include "tests/ui/EndgameDesk.h"
-#include "ui/support/Firework.h"
-#include "ui/windows/frmWin.h"
+#include "ui/windows/animations/Canvas.h"
+#include "ui/windows/animations/frmWin.h"
 
 namespace {
 
@@ -16,7 +16,7 @@ class Win : public EndgameDesk {
     return PictureOf(win).toImage();
   }
   static const QPixmap& PictureOf(frmWin& win) {
-    return dynamic_cast<FireworkView&>(Child<QWidget>(win, "picWin")).Picture();
+    return dynamic_cast<Canvas&>(Child<QWidget>(win, "picWin")).Picture();
   }
   static const QTimer& DrawTimer(frmWin& win) { return Child<QTimer>(win, "tmrDraw"); }
 };

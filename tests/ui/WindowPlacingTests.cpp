@@ -2,7 +2,7 @@
 #include <QMainWindow>
 #include <gtest/gtest.h>
 
-#include "ui/support/WindowPlacing.h"
+#include "ui/widgets/WindowPlacing.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ui/support/AccessibleDialog.h"
+#include "ui/application/AccessibleDialog.h"
 
 #include <QDialog>
 #include <QMenu>

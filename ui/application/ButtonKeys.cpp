@@ -1,4 +1,4 @@
-#include "ui/support/ButtonKeys.h"
+#include "ui/application/ButtonKeys.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

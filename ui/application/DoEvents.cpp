@@ -1,4 +1,4 @@
-#include "ui/support/DoEvents.h"
+#include "ui/application/DoEvents.h"
 
 #include <QCoreApplication>
 

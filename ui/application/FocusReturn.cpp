@@ -1,4 +1,4 @@
-#include "ui/support/FocusReturn.h"
+#include "ui/application/FocusReturn.h"
 
 #include <QEvent>
 #include <QGuiApplication>

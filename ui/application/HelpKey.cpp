@@ -1,4 +1,4 @@
-#include "ui/support/HelpKey.h"
+#include "ui/application/HelpKey.h"
 
 #include <QApplication>
 #include <QKeyEvent>

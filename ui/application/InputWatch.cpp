@@ -1,4 +1,4 @@
-#include "ui/support/InputWatch.h"
+#include "ui/application/InputWatch.h"
 
 #include <QCoreApplication>
 #include <QEvent>

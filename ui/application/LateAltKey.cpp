@@ -1,4 +1,4 @@
-#include "ui/support/LateAltKey.h"
+#include "ui/application/LateAltKey.h"
 
 #include <QApplication>
 #include <QKeyEvent>

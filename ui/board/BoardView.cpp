@@ -10,7 +10,7 @@
 
 #include "ui/board/AccessibleBoard.h"
 #include "ui/board/BoardKeys.h"
-#include "ui/support/SystemColors.h"
+#include "ui/board/SystemColors.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <QPainter>
 
 #include "ui/board/BoardLayout.h"
-#include "ui/support/SystemColors.h"
+#include "ui/board/SystemColors.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ui/support/SystemColors.h"
+#include "ui/board/SystemColors.h"
 
 #include <algorithm>
 #include <array>

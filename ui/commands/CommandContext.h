@@ -2,9 +2,9 @@
 
 #include "app/Globals.h"
 #include "core/Game.h"
+#include "ui/commands/Dialogs.h"
 #include "ui/commands/MainWindow.h"
 #include "ui/commands/SecondaryWindows.h"
-#include "ui/support/Dialogs.h"
 
 // All that a command may use; everything in it outlives the command.
 struct CommandContext {

@@ -5,16 +5,9 @@
 #include <QColor>
 #include <QString>
 
-// What a file dialog is asked for. directory: where it starts; filter: pairs of visible text and
-// patterns, all separated by "|"; mustExist: whether a file to open has to be there.
-struct FileQuestion {
-  QString directory;
-  QString filter;
-  bool mustExist = true;
-};
+#include "ui/application/FileDialogs.h"
 
-// The toolkit's common dialogs behind a small interface, so that commands can be tested without
-// them.
+// The common dialogs behind a small interface, so that commands can be tested without them.
 class Dialogs {
  public:
   Dialogs() = default;

@@ -1,8 +1,8 @@
 #include "ui/commands/MoveHistory.h"
 
+#include "app/Globals.h"
 #include "storage/FileWriter.h"
 #include "storage/MoveListExport.h"
-#include "ui/support/Version.h"
 
 namespace {
 

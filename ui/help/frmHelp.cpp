@@ -1,4 +1,4 @@
-#include "ui/windows/frmHelp.h"
+#include "ui/help/frmHelp.h"
 
 #include <QAction>
 #include <QGuiApplication>

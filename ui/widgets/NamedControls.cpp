@@ -1,10 +1,10 @@
-#include "ui/support/NamedControls.h"
+#include "ui/widgets/NamedControls.h"
 
 #include <QGroupBox>
 #include <QLabel>
 #include <QRadioButton>
 
-#include "ui/support/ValueLabel.h"
+#include "ui/widgets/ValueLabel.h"
 
 QGroupBox* AddFrame(QWidget* parent, const char* name, const QString& caption) {
   auto* frame = new QGroupBox(caption, parent);

@@ -1,4 +1,4 @@
-#include "ui/support/Pictures.h"
+#include "ui/widgets/Pictures.h"
 
 #include <QDir>
 #include <QFileInfo>

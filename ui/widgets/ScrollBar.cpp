@@ -1,4 +1,4 @@
-#include "ui/support/ScrollBar.h"
+#include "ui/widgets/ScrollBar.h"
 
 #include <QPainter>
 

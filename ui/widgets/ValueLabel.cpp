@@ -1,4 +1,4 @@
-#include "ui/support/ValueLabel.h"
+#include "ui/widgets/ValueLabel.h"
 
 #include <QAccessibleWidget>
 #include <QEvent>

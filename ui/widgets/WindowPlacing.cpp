@@ -1,4 +1,4 @@
-#include "ui/support/WindowPlacing.h"
+#include "ui/widgets/WindowPlacing.h"
 
 #include <algorithm>
 

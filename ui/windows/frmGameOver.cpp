@@ -5,7 +5,7 @@
 #include <QPushButton>
 #include <QStyle>
 
-#include "ui/support/WindowPlacing.h"
+#include "ui/widgets/WindowPlacing.h"
 
 namespace {
 

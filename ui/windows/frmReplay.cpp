@@ -14,9 +14,9 @@
 #include <QTimer>
 
 #include "storage/NumberParser.h"
-#include "ui/support/NamedControls.h"
-#include "ui/support/ScrollBar.h"
-#include "ui/support/ValueLabel.h"
+#include "ui/widgets/NamedControls.h"
+#include "ui/widgets/ScrollBar.h"
+#include "ui/widgets/ValueLabel.h"
 
 namespace {
 

@@ -9,9 +9,9 @@
 #include <QScopedValueRollback>
 
 #include "core/NumberText.h"
-#include "ui/support/NamedControls.h"
-#include "ui/support/ScrollBar.h"
-#include "ui/support/ValueLabel.h"
+#include "ui/widgets/NamedControls.h"
+#include "ui/widgets/ScrollBar.h"
+#include "ui/widgets/ValueLabel.h"
 
 namespace {
 

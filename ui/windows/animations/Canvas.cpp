@@ -1,4 +1,4 @@
-#include "ui/support/Firework.h"
+#include "ui/windows/animations/Canvas.h"
 
 #include <array>
 #include <cmath>
@@ -34,7 +34,7 @@ QColor RandomPaletteColor(Random& random) {
   return Palette[static_cast<std::size_t>(random.Below(static_cast<int>(Palette.size())))];
 }
 
-QFont FireworkFont(int points, bool bold, bool italic) {
+QFont CanvasFont(int points, bool bold, bool italic) {
   QFont font("Times New Roman");
   font.setStyleHint(QFont::Serif);
   font.setPixelSize(static_cast<int>(std::lround(points * TwipsPerPoint / TwipsPerPixel)));
@@ -43,11 +43,11 @@ QFont FireworkFont(int points, bool bold, bool italic) {
   return font;
 }
 
-FireworkView::FireworkView(QWidget* parent) : QWidget(parent) {
+Canvas::Canvas(QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void FireworkView::Clear(const QColor& color, const QPixmap& picture) {
+void Canvas::Clear(const QColor& color, const QPixmap& picture) {
   picture_ = QPixmap(size() * devicePixelRatioF());
   picture_.setDevicePixelRatio(devicePixelRatioF());
   picture_.fill(color);
@@ -59,32 +59,32 @@ void FireworkView::Clear(const QColor& color, const QPixmap& picture) {
   update();
 }
 
-bool FireworkView::IsBlurred() const {
+bool Canvas::IsBlurred() const {
   return picture_.devicePixelRatio() != devicePixelRatioF();
 }
 
-double FireworkView::ScaleWidth() const {
+double Canvas::ScaleWidth() const {
   return width() * TwipsPerPixel;
 }
 
-double FireworkView::ScaleHeight() const {
+double Canvas::ScaleHeight() const {
   return height() * TwipsPerPixel;
 }
 
-QPointF FireworkView::RandomPlace(Random& random) const {
+QPointF Canvas::RandomPlace(Random& random) const {
   const double x = (ScaleWidth() + 400) * random.Next() - 400;
   const double y = (ScaleHeight() + 200) * random.Next() - 200;
   return {x, y};
 }
 
-void FireworkView::SetPoint(const QPointF& place, const QColor& color) {
+void Canvas::SetPoint(const QPointF& place, const QColor& color) {
   textPosition_ = place / TwipsPerPixel;
   QPainter painter(&picture_);
   painter.fillRect(QRectF(textPosition_, QSizeF(PointPixels, PointPixels)), color);
   update();
 }
 
-void FireworkView::Print(const QString& text, const QFont& font, const QColor& color) {
+void Canvas::Print(const QString& text, const QFont& font, const QColor& color) {
   QPainter painter(&picture_);
   painter.setFont(font);
   painter.setPen(color);
@@ -92,6 +92,6 @@ void FireworkView::Print(const QString& text, const QFont& font, const QColor& c
   update();
 }
 
-void FireworkView::paintEvent(QPaintEvent*) {
+void Canvas::paintEvent(QPaintEvent*) {
   QPainter(this).drawPixmap(0, 0, picture_);
 }

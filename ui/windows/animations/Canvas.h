@@ -14,13 +14,13 @@ bool HasManyColors(const QScreen& screen);
 QColor RandomPaletteColor(Random& random);
 
 // "Times New Roman" in a size that keeps its proportion to places in twips.
-QFont FireworkFont(int points, bool bold, bool italic);
+QFont CanvasFont(int points, bool bold, bool italic);
 
 // What a firework is drawn on: a picture that keeps what was drawn, as sharp as the screen. Places
 // are in twips from the top left corner and may lie outside it.
-class FireworkView : public QWidget {
+class Canvas : public QWidget {
  public:
-  explicit FireworkView(QWidget* parent);
+  explicit Canvas(QWidget* parent);
 
   // Begins afresh with a plain colour and over it, if there is one, a picture stretched to all of
   // the view. The view has its final size by then.

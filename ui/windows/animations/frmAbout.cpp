@@ -1,4 +1,4 @@
-#include "ui/windows/frmAbout.h"
+#include "ui/windows/animations/frmAbout.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -8,11 +8,11 @@
 #include <QPainter>
 #include <QPushButton>
 
+#include "app/Globals.h"
 #include "core/NumberText.h"
-#include "ui/support/Firework.h"
-#include "ui/support/Pictures.h"
-#include "ui/support/Version.h"
-#include "ui/support/WindowPlacing.h"
+#include "ui/widgets/Pictures.h"
+#include "ui/widgets/WindowPlacing.h"
+#include "ui/windows/animations/Canvas.h"
 
 namespace {
 
@@ -71,7 +71,7 @@ QFrame* NewLine(const char* name, QPalette::ColorRole role, QWidget* parent) {
 frmAbout::frmAbout(const Globals& globals, bool manyColors, QWidget* mainWindow)
     : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
       globals_(globals),
-      picAboutImage_(new FireworkView(this)),
+      picAboutImage_(new Canvas(this)),
       ManyColors_(manyColors) {
   setObjectName("frmAbout");
   setWindowTitle(QString("About ") + Title);
@@ -183,7 +183,7 @@ void frmAbout::Animate() {
 void frmAbout::DrawInitials() {
   picAboutImage_->SetPoint(picAboutImage_->RandomPlace(random_), drawingColor_);
   drawingColor_ = NextColor();
-  picAboutImage_->Print(Initials, FireworkFont(20, false, false), drawingColor_);
+  picAboutImage_->Print(Initials, CanvasFont(20, false, false), drawingColor_);
 }
 
 void frmAbout::DrawTitle() {
@@ -191,7 +191,7 @@ void frmAbout::DrawTitle() {
   const QStringList words = QString(Title).split(' ');
   for (qsizetype i = 0; i < words.size(); ++i) {
     picAboutImage_->SetPoint(WordPlaces[i], drawingColor_);
-    picAboutImage_->Print(words[i], FireworkFont(37, false, false), drawingColor_);
+    picAboutImage_->Print(words[i], CanvasFont(37, false, false), drawingColor_);
   }
 }
 

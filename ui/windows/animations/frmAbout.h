@@ -6,7 +6,7 @@
 #include "app/Globals.h"
 #include "core/Random.h"
 
-class FireworkView;
+class Canvas;
 class QLabel;
 class QVBoxLayout;
 
@@ -43,7 +43,7 @@ class frmAbout : public QDialog {
   QColor NextColor();
 
   const Globals& globals_;
-  FireworkView* picAboutImage_;
+  Canvas* picAboutImage_;
   QLabel* lblVersion_ = nullptr;
   QTimer tmrAnimation_{this};
   Random random_;

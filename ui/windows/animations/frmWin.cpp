@@ -1,4 +1,4 @@
-#include "ui/windows/frmWin.h"
+#include "ui/windows/animations/frmWin.h"
 
 #include <cmath>
 
@@ -6,8 +6,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "ui/support/Firework.h"
-#include "ui/support/WindowPlacing.h"
+#include "ui/widgets/WindowPlacing.h"
+#include "ui/windows/animations/Canvas.h"
 
 namespace {
 
@@ -19,7 +19,7 @@ constexpr int OpeningPasses = 1001;
 constexpr int DrawIntervalMilliseconds = 40;
 
 QFont TitleFont() {
-  return FireworkFont(80, true, true);
+  return CanvasFont(80, true, true);
 }
 
 // The title lies in the middle, whatever font the system has for it.
@@ -35,7 +35,7 @@ QSize SizeAroundTitle() {
 
 frmWin::frmWin(bool manyColors, QWidget* mainWindow)
     : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
-      picWin_(new FireworkView(this)),
+      picWin_(new Canvas(this)),
       manyColors_(manyColors) {
   setObjectName("frmWin");
   setWindowTitle(Text);
@@ -83,7 +83,7 @@ void frmWin::tmrDraw_Timer() {
 void frmWin::DrawSmallText() {
   picWin_->SetPoint(picWin_->RandomPlace(random_), drawingColor_);
   drawingColor_ = NextColor();
-  picWin_->Print(Text, FireworkFont(20, true, false), drawingColor_);
+  picWin_->Print(Text, CanvasFont(20, true, false), drawingColor_);
 }
 
 void frmWin::DrawTitle() {

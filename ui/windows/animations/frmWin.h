@@ -5,7 +5,7 @@
 
 #include "core/Random.h"
 
-class FireworkView;
+class Canvas;
 
 // The firework for a tour of all 64 squares that the player made alone. It runs for as long as the
 // window is seen.
@@ -32,7 +32,7 @@ class frmWin : public QDialog {
   void DrawTitle();
   QColor NextColor();
 
-  FireworkView* picWin_;
+  Canvas* picWin_;
   QTimer tmrDraw_{this};
   Random random_;
   QColor drawingColor_ = Qt::black;

@@ -1,4 +1,4 @@
-#include "ui/windows/GameMenu.h"
+#include "ui/windows/game/GameMenu.h"
 
 #include <optional>
 
@@ -7,7 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include "ui/windows/frmGame.h"
+#include "ui/windows/game/frmGame.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ui/support/HalfSecondTimer.h"
+#include "ui/windows/game/HalfSecondTimer.h"
 
 #include <utility>
 

@@ -1,17 +1,17 @@
-#include "ui/windows/ScreenWindows.h"
+#include "ui/windows/game/ScreenWindows.h"
 
 #include "ui/commands/CommandHistory.h"
-#include "ui/support/Firework.h"
-#include "ui/support/WindowPlacing.h"
-#include "ui/windows/frmAbout.h"
-#include "ui/windows/frmGame.h"
+#include "ui/widgets/WindowPlacing.h"
+#include "ui/windows/animations/Canvas.h"
+#include "ui/windows/animations/frmAbout.h"
+#include "ui/windows/animations/frmWin.h"
 #include "ui/windows/frmGameOver.h"
-#include "ui/windows/frmHistory.h"
-#include "ui/windows/frmPreferences.h"
 #include "ui/windows/frmReplay.h"
-#include "ui/windows/frmScores.h"
 #include "ui/windows/frmSolve.h"
-#include "ui/windows/frmWin.h"
+#include "ui/windows/game/frmGame.h"
+#include "ui/windows/history/frmHistory.h"
+#include "ui/windows/preferences/frmPreferences.h"
+#include "ui/windows/scores/frmScores.h"
 
 void ScreenWindows::ShowSolve(int startMove) {
   frmSolve window(mainWindow_.Context(), &mainWindow_);

@@ -1,4 +1,4 @@
-#include "ui/windows/frmGame.h"
+#include "ui/windows/game/frmGame.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -7,13 +7,13 @@
 #include <QScopedValueRollback>
 #include <QTimer>
 
+#include "ui/application/AccessibleDialog.h"
+#include "ui/application/DoEvents.h"
 #include "ui/board/BoardView.h"
 #include "ui/commands/EndOfGame.h"
 #include "ui/commands/GameFiles.h"
-#include "ui/support/AccessibleDialog.h"
-#include "ui/support/DoEvents.h"
-#include "ui/support/Pictures.h"
-#include "ui/windows/frmHelp.h"
+#include "ui/help/frmHelp.h"
+#include "ui/widgets/Pictures.h"
 
 namespace {
 
@@ -100,11 +100,12 @@ bool frmGame::IsClockEnabled() const {
 }
 
 bool frmGame::Ask(const std::string& title, const std::string& text, DefaultAnswer defaultAnswer) {
-  return dialogs_.Ask(QString::fromStdString(title), QString::fromStdString(text), defaultAnswer);
+  return AskQuestion(*this, QString::fromStdString(title), QString::fromStdString(text),
+                     defaultAnswer);
 }
 
 void frmGame::Tell(const std::string& title, const std::string& text, MessageIcon icon) {
-  dialogs_.Tell(QString::fromStdString(title), QString::fromStdString(text), icon);
+  TellMessage(*this, QString::fromStdString(title), QString::fromStdString(text), icon);
 }
 
 void frmGame::EndGame(const GameOverReport& report) {

@@ -10,17 +10,17 @@
 #include <QSize>
 
 #include "core/Game.h"
+#include "ui/application/ButtonKeys.h"
+#include "ui/application/FocusReturn.h"
+#include "ui/application/HelpKey.h"
+#include "ui/application/InputWatch.h"
+#include "ui/application/LateAltKey.h"
 #include "ui/commands/CommandContext.h"
 #include "ui/commands/MainWindow.h"
-#include "ui/support/ButtonKeys.h"
-#include "ui/support/FocusReturn.h"
-#include "ui/support/HalfSecondTimer.h"
-#include "ui/support/HelpKey.h"
-#include "ui/support/InputWatch.h"
-#include "ui/support/LateAltKey.h"
-#include "ui/support/QtDialogs.h"
-#include "ui/windows/GameMenu.h"
-#include "ui/windows/ScreenWindows.h"
+#include "ui/windows/game/GameMenu.h"
+#include "ui/windows/game/HalfSecondTimer.h"
+#include "ui/windows/game/ScreenDialogs.h"
+#include "ui/windows/game/ScreenWindows.h"
 
 class BoardView;
 class frmHelp;
@@ -130,7 +130,7 @@ class frmGame : public QMainWindow, public MainWindow {
   HalfSecondTimer tmrTime_;
   BoardView* board_ = nullptr;
   GameMenu menu_;
-  QtDialogs dialogs_;
+  ScreenDialogs dialogs_;
   ScreenWindows windows_;
   CommandContext context_;
   std::unique_ptr<frmHelp> help_;  // made on first use

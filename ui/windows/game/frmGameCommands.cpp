@@ -7,7 +7,7 @@
 #include "ui/commands/GameFiles.h"
 #include "ui/commands/Replay.h"
 #include "ui/commands/Solve.h"
-#include "ui/windows/frmGame.h"
+#include "ui/windows/game/frmGame.h"
 
 void frmGame::mnuFileNew_Click() {
   game_.mnuFileNew_Click();

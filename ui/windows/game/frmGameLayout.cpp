@@ -10,8 +10,8 @@
 
 #include "ui/board/BoardLayout.h"
 #include "ui/board/BoardView.h"
-#include "ui/support/WindowPlacing.h"
-#include "ui/windows/frmGame.h"
+#include "ui/widgets/WindowPlacing.h"
+#include "ui/windows/game/frmGame.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ui/support/DefaultPrinter.h"
+#include "ui/windows/history/DefaultPrinter.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ui/support/MoveListPage.h"
+#include "ui/windows/history/MoveListPage.h"
 
 #include <algorithm>
 #include <cmath>

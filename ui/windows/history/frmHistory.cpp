@@ -1,4 +1,4 @@
-#include "ui/windows/frmHistory.h"
+#include "ui/windows/history/frmHistory.h"
 
 #include <algorithm>
 
@@ -12,12 +12,12 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include "app/Globals.h"
 #include "storage/MoveListExport.h"
 #include "ui/commands/CommandHistory.h"
 #include "ui/commands/MoveHistory.h"
-#include "ui/support/MoveListPage.h"
-#include "ui/support/Version.h"
-#include "ui/support/WindowPlacing.h"
+#include "ui/widgets/WindowPlacing.h"
+#include "ui/windows/history/MoveListPage.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <QStringList>
 
 #include "ui/commands/CommandContext.h"
-#include "ui/support/DefaultPrinter.h"
+#include "ui/windows/history/DefaultPrinter.h"
 
 class QListWidget;
 class QMenu;

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QPixmap>
 
-#include "ui/support/SystemColors.h"
+#include "ui/board/SystemColors.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include "core/Keyboard.h"
 #include "ui/board/BoardKeys.h"
-#include "ui/support/SystemColors.h"
+#include "ui/board/SystemColors.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
-#include "ui/windows/frmPreferences.h"
+#include "ui/windows/preferences/frmPreferences.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
 
+#include "ui/board/SystemColors.h"
 #include "ui/commands/Preferences.h"
-#include "ui/support/Pictures.h"
-#include "ui/support/SystemColors.h"
-#include "ui/support/WindowPlacing.h"
+#include "ui/widgets/Pictures.h"
+#include "ui/widgets/WindowPlacing.h"
 #include "ui/windows/preferences/ChooserButton.h"
 #include "ui/windows/preferences/Choosers.h"
 #include "ui/windows/preferences/PreviewBoard.h"

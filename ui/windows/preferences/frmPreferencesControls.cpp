@@ -6,12 +6,12 @@
 #include <QGroupBox>
 #include <QRadioButton>
 
-#include "ui/support/NamedControls.h"
-#include "ui/windows/frmPreferences.h"
+#include "ui/widgets/NamedControls.h"
 #include "ui/windows/preferences/ChooserButton.h"
 #include "ui/windows/preferences/Choosers.h"
 #include "ui/windows/preferences/PreviewBoard.h"
 #include "ui/windows/preferences/Swatch.h"
+#include "ui/windows/preferences/frmPreferences.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ui/support/CoverPicture.h"
+#include "ui/windows/scores/CoverPicture.h"
 
 #include <QPainter>
 

@@ -1,4 +1,4 @@
-#include "ui/support/ElidedLabel.h"
+#include "ui/windows/scores/ElidedLabel.h"
 
 #include <QHelpEvent>
 #include <QPainter>

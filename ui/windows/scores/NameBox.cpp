@@ -1,4 +1,4 @@
-#include "ui/windows/NameBox.h"
+#include "ui/windows/scores/NameBox.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>

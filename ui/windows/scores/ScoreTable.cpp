@@ -1,4 +1,4 @@
-#include "ui/windows/ScoreTable.h"
+#include "ui/windows/scores/ScoreTable.h"
 
 #include <algorithm>
 

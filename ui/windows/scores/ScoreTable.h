@@ -6,7 +6,7 @@
 #include <QWidget>
 
 #include "storage/ScoreLists.h"
-#include "ui/support/ElidedLabel.h"
+#include "ui/windows/scores/ElidedLabel.h"
 
 class QGridLayout;
 

@@ -1,4 +1,4 @@
-#include "ui/windows/frmScores.h"
+#include "ui/windows/scores/frmScores.h"
 
 #include <algorithm>
 #include <tuple>
@@ -10,11 +10,11 @@
 #include <QVBoxLayout>
 
 #include "core/NumberText.h"
-#include "ui/support/CoverPicture.h"
-#include "ui/support/Pictures.h"
-#include "ui/support/WindowPlacing.h"
-#include "ui/windows/NameBox.h"
-#include "ui/windows/ScoreTable.h"
+#include "ui/widgets/Pictures.h"
+#include "ui/widgets/WindowPlacing.h"
+#include "ui/windows/scores/CoverPicture.h"
+#include "ui/windows/scores/NameBox.h"
+#include "ui/windows/scores/ScoreTable.h"
 
 namespace {
 

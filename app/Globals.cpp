@@ -1,4 +1,4 @@
-#include "ui/support/Version.h"
+#include "app/Globals.h"
 
 #include <QCoreApplication>
 #include <QVersionNumber>

@@ -2,11 +2,11 @@
 #include <QMimeDatabase>
 
 #include "tests/ui/Desk.h"
-#include "ui/support/FileIcons.h"
+#include "ui/application/FileDialogs.h"
 
 namespace {
 
-class FileDialogs : public Desk {
+class FileDialogsTests : public Desk {
  protected:
   QFileInfo PdfNamed(const QString& name) {
     QFile file(ProgramFile(name));
@@ -28,18 +28,18 @@ class FileDialogs : public Desk {
 
 }  // namespace
 
-TEST_F(FileDialogs, TellAFilesKindByItsNameWithoutLookingIntoIt) {
+TEST_F(FileDialogsTests, TellAFilesKindByItsNameWithoutLookingIntoIt) {
   const QMimeDatabase kinds;
   EXPECT_EQ(FileIcons().type(PdfNamed("notes.txt")), kinds.mimeTypeForName("text/plain").comment());
   EXPECT_EQ(FileIcons().type(PdfNamed("notes")),
             kinds.mimeTypeForName("application/octet-stream").comment());
 }
 
-TEST_F(FileDialogs, TellFoldersFromFiles) {
+TEST_F(FileDialogsTests, TellFoldersFromFiles) {
   EXPECT_EQ(FileIcons().type(QFileInfo(ProgramFile("."))), "Folder");
 }
 
-TEST_F(FileDialogs, LookIntoNoFileOfTheFolderWhenAGameIsOpenedOrSaved) {
+TEST_F(FileDialogsTests, LookIntoNoFileOfTheFolderWhenAGameIsOpenedOrSaved) {
   Open();
   ClickSquare(1, 2);
   ExpectNamesAloneAfter("mnuFileSave");
