@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "core/Game.h"
 #include "core/NumberText.h"
+#include "core/TimeString.h"
 #include "storage/IniStore.h"
 #include "storage/NumberParser.h"
 

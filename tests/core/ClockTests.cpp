@@ -1,5 +1,6 @@
 #include <limits>
 
+#include "core/TimeString.h"
 #include "tests/support/GameTest.h"
 
 namespace {

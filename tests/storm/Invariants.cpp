@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include "app/Globals.h"
+#include "core/TimeString.h"
 #include "ui/windows/game/frmGame.h"
 
 namespace {

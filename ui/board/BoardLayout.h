@@ -3,22 +3,14 @@
 #include <array>
 
 #include "core/Square.h"
+#include "core/Twips.h"
 
-// The arithmetic of the board's sizes. A twip is 1/1440 inch; 15 twips are one logical pixel.
+// The arithmetic of the board's sizes.
 
-inline constexpr double TwipsPerPixel = 15.0;
 inline constexpr double MinimumInnerHeightTwips = 2800.0;
 inline constexpr double DesignedInnerSideTwips = 9600.0;
 inline constexpr int MaximumCornerDistanceTwips = 1500;
 inline constexpr double BorderTwips = TwipsPerPixel;  // a single-line border, on each side
-
-constexpr double PixelsFromTwips(double twips) {
-  return twips / TwipsPerPixel;
-}
-
-constexpr double TwipsFromPixels(double pixels) {
-  return pixels * TwipsPerPixel;
-}
 
 struct BoardLayout {
   double cornerDistance = 0;  // twips: the frame around the board

@@ -7,9 +7,10 @@
 #include <QPainter>
 #include <QScreen>
 
+#include "core/Twips.h"
+
 namespace {
 
-constexpr double TwipsPerPixel = 15;
 constexpr double TwipsPerPoint = 20;
 constexpr int DepthOfPalette = 8;
 constexpr double PointPixels = 1;

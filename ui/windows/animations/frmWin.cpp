@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "core/Twips.h"
 #include "ui/widgets/WindowPlacing.h"
 #include "ui/windows/animations/Canvas.h"
 
@@ -13,7 +14,6 @@ namespace {
 
 constexpr const char* Text = "You Win!";
 constexpr QPointF TitlePlace(200, 1000);
-constexpr double TwipsPerPixel = 15;
 constexpr int OpeningPasses = 1001;
 // A pass costs a fraction of a millisecond, so this leaves nearly all of a core to others.
 constexpr int DrawIntervalMilliseconds = 40;
