@@ -1,6 +1,6 @@
 #include "solver/Autoplay.h"
 
-#include "solver/TourMoves.h"
+#include "solver/TourOrder.h"
 
 namespace {
 

@@ -5,8 +5,13 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "core/Square.h"
 #include "solver/SquareSet.h"
-#include "solver/TourMoves.h"
+
+// The order in which the search and autoplay try the knight's moves. It decides which tour is found
+// and differs from the order in which the end of a game is looked for.
+inline constexpr std::array<Offset, 8> TourMoveOffsets{
+    {{+1, +2}, {+2, +1}, {-1, +2}, {-2, +1}, {+1, -2}, {+2, -1}, {-1, -2}, {-2, -1}}};
 
 // Tries still to be made from one square: bit i stands for TourMoveOffsets[i], so that the next try
 // is the lowest bit.
