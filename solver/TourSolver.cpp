@@ -38,19 +38,13 @@ void ShowAndYield(const SolveTask& task) {
   task.state.SolverRunning = true;
 }
 
-void Redraw(const SolveTask& task, const TourSearch& search) {
-  task.solver.SolveRefreshCounter = 0;
-  FollowSearch(task, search);
-  ShowAndYield(task);
-}
-
 TourSearch::Outcome SearchToTheEnd(const SolveTask& task, TourSearch& search) {
   for (;;) {
-    const int untilRedraw = task.SolveRefreshRate + 1 - task.solver.SolveRefreshCounter;
-    const TourSearch::Outcome outcome = search.Run(untilRedraw > 0 ? untilRedraw : 1);
+    const TourSearch::Outcome outcome = search.Run(task.SolveRefreshRate + 1);
     task.solver.PositionsTested = search.Entries();
     if (outcome != TourSearch::Outcome::Paused) return outcome;
-    Redraw(task, search);
+    FollowSearch(task, search);
+    ShowAndYield(task);
     if (task.solver.StopSolving) return search.Unwind();
   }
 }

@@ -4,11 +4,11 @@
 
 #include "core/Game.h"
 
-// The counters and the flag of a search; a new search begins with a new one.
+// The count and the flag of a search; a new search begins with a new one. Entries since the last
+// redraw are not counted: whenever anybody can look, there are none.
 struct SolverState {
-  std::int64_t PositionsTested = 0;      // entries: one for the start, one for every square tried
-  std::int16_t SolveRefreshCounter = 0;  // entries since the board was last redrawn
-  bool StopSolving = false;              // set while the search yields, to have it unwind
+  std::int64_t PositionsTested = 0;  // entries: one for the start, one for every square tried
+  bool StopSolving = false;          // set while the search yields, to have it unwind
 };
 
 // Whoever shows how the search goes.
@@ -23,8 +23,8 @@ class SolveProgress {
   virtual void ShowProgress() = 0;
 };
 
-// Everything outlives the search. The rate may change while it yields; the board is redrawn when
-// SolveRefreshCounter exceeds it, that is on every (rate + 1)-th entry.
+// Everything outlives the search. The board is redrawn on every (SolveRefreshRate + 1)-th entry;
+// the rate, 0 or more, may change while the search yields.
 struct SolveTask {
   Game& game;
   GameState& state;

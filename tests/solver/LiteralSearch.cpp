@@ -17,33 +17,46 @@ void ShowAndYield(const SolveTask& task) {
   task.state.SolverRunning = true;
 }
 
-bool TryMoves(const SolveTask& task) {
-  for (const Offset offset : OrderOfTries) {
-    const int x = task.state.KnightX + offset.dx;
-    const int y = task.state.KnightY + offset.dy;
-    if (!IsSquare(x, y) || task.state.Cell(x, y) != GameState::Unvisited) continue;
-    task.game.ValidMove(x, y);
-    if (SolveLiterally(task)) return true;
-    task.game.mnuEditUndo_Click();
+class Recursion {
+ public:
+  explicit Recursion(const SolveTask& task) : task_(task) {}
+
+  bool Enter() {
+    ++task_.solver.PositionsTested;
+    const bool over = task_.game.CheckIfGameOver(task_.state.KnightX, task_.state.KnightY);
+    const bool full = task_.state.MoveCount == SquareCount;
+    if (over && full) {
+      task_.window.EnableClock(false);
+      ShowAndYield(task_);
+      return true;
+    }
+    if (task_.solver.StopSolving) return false;
+    if (++entriesSinceRedraw_ > task_.SolveRefreshRate) {
+      entriesSinceRedraw_ = 0;
+      ShowAndYield(task_);
+    }
+    return !full && TryMoves();
   }
-  return false;
-}
+
+ private:
+  bool TryMoves() {
+    for (const Offset offset : OrderOfTries) {
+      const int x = task_.state.KnightX + offset.dx;
+      const int y = task_.state.KnightY + offset.dy;
+      if (!IsSquare(x, y) || task_.state.Cell(x, y) != GameState::Unvisited) continue;
+      task_.game.ValidMove(x, y);
+      if (Enter()) return true;
+      task_.game.mnuEditUndo_Click();
+    }
+    return false;
+  }
+
+  const SolveTask& task_;
+  int entriesSinceRedraw_ = 0;
+};
 
 }  // namespace
 
 bool SolveLiterally(const SolveTask& task) {
-  ++task.solver.PositionsTested;
-  const bool over = task.game.CheckIfGameOver(task.state.KnightX, task.state.KnightY);
-  const bool full = task.state.MoveCount == SquareCount;
-  if (over && full) {
-    task.window.EnableClock(false);
-    ShowAndYield(task);
-    return true;
-  }
-  if (task.solver.StopSolving) return false;
-  if (++task.solver.SolveRefreshCounter > task.SolveRefreshRate) {
-    task.solver.SolveRefreshCounter = 0;
-    ShowAndYield(task);
-  }
-  return !full && TryMoves(task);
+  return Recursion(task).Enter();
 }
