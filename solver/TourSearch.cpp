@@ -15,8 +15,10 @@ TourSearch::TourSearch(const GameState& game)
   // the search gets from a square then depends on more than the squares within reach.
   folding_ = std::popcount(free) == SquareCount - game.MoveCount;
   const int knight = start_->subtree.knight;
-  start_->Enter({free | OneSquare(knight), knight, folding_},
-                KnightTargets[static_cast<std::size_t>(knight)] & free);
+  Stand(start_, {free | OneSquare(knight), knight, folding_},
+        KnightTargets[static_cast<std::size_t>(knight)] & free);
+  // The knight's own square is free when the file named it twice and one of the two was undone.
+  start_->within = free;
 }
 
 MoveRow TourSearch::Move(int i) const {
@@ -49,6 +51,13 @@ inline Subtree TourSearch::Level::SubtreeAt(int target, SquareSet onward) {
   return {part, target, subtree.closing && part == within};
 }
 
+// A full list of moves ends the way.
+inline void TourSearch::Stand(Level* level, const Subtree& subtree, SquareSet targets) {
+  level_ = level;
+  level_->Enter(subtree, targets);
+  if (level_ == &levels_[SquareCount]) level_->tries = 0;
+}
+
 inline void TourSearch::Leave() {
   if (folding_) sizes_.Keep(level_->subtree, entries_ - level_->entriesBefore);
   --level_;
@@ -71,18 +80,14 @@ inline void TourSearch::Try() {
   const Subtree subtree = level_->SubtreeAt(target, onward);
   if (folding_ && Skip(sizes_.Find(subtree))) return;
 
-  level_ = next;
-  level_->Enter(subtree, onward);
+  Stand(next, subtree, onward);
   level_->entriesBefore = entries_;
   ++entries_;
 }
 
-// A full list of moves ends the way there. With a square still free beside the knight it is no
-// tour.
-inline bool TourSearch::IsTour() {
-  if (level_ != &levels_[SquareCount]) return false;
-  level_->tries = 0;
-  return level_->targets == 0;
+// With a square still free beside the knight a full list of moves is no tour.
+inline bool TourSearch::IsTour() const {
+  return level_ == &levels_[SquareCount] && level_->targets == 0;
 }
 
 TourSearch::Outcome TourSearch::Run(std::int64_t entries) {

@@ -64,10 +64,11 @@ class TourSearch {
     Subtree SubtreeAt(int target, SquareSet onward);
   };
 
+  void Stand(Level* level, const Subtree& subtree, SquareSet targets);
   void Try();
   void Leave();
   bool Skip(std::int64_t entries);
-  bool IsTour();
+  bool IsTour() const;
 
   // By the number of moves made; the level above the one where the search stands has the square
   // that was tried last.

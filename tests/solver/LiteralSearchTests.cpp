@@ -13,10 +13,10 @@ constexpr int Never = 0;
 // the refresh rate and stop at the same redraws.
 class LiteralSearchTest : public testing::Test {
  protected:
-  void Compare(const std::vector<MoveRow>& moves, std::int16_t startingPosition,
-               const std::vector<std::int16_t>& rates, int stopAtRedraw) {
-    Prepare(tested_, moves, startingPosition, rates, stopAtRedraw);
-    Prepare(literal_, moves, startingPosition, rates, stopAtRedraw);
+  void Compare(const SolverPosition& position, const std::vector<std::int16_t>& rates,
+               int stopAtRedraw) {
+    Prepare(tested_, position, rates, stopAtRedraw);
+    Prepare(literal_, position, rates, stopAtRedraw);
     const bool solved = tested_.desk.Solve();
     ASSERT_EQ(solved, literal_.desk.Solve(SolveLiterally));
     ASSERT_EQ(tested_.sights, literal_.sights);
@@ -38,9 +38,14 @@ class LiteralSearchTest : public testing::Test {
     return rates;
   }
 
+  // At 0 every entry is shown.
+  std::vector<std::int16_t> LowRate() { return {static_cast<std::int16_t>(random_() % 3)}; }
+
   std::int16_t RandomStart() {
     return random_() % 2 == 0 ? StartOnStoredSquare : StartOnPlayersChoice;
   }
+
+  int UpTo(unsigned highest) { return 1 + static_cast<int>(random_() % highest); }
 
   std::mt19937 random_{20260101};
 
@@ -50,9 +55,9 @@ class LiteralSearchTest : public testing::Test {
     std::vector<std::string> sights;  // at every redraw
   };
 
-  static void Prepare(Side& side, const std::vector<MoveRow>& moves, std::int16_t startingPosition,
+  static void Prepare(Side& side, const SolverPosition& position,
                       const std::vector<std::int16_t>& rates, int stopAtRedraw) {
-    side.desk.BeginWith(moves, startingPosition);
+    side.desk.BeginWith(position);
     side.sights.clear();
     side.desk.refreshRate = rates.front();
     side.desk.onRedraw = [&side, rates, stopAtRedraw] {
@@ -73,7 +78,7 @@ class LiteralSearchTest : public testing::Test {
 TEST_F(LiteralSearchTest, GoesTheSameWayFromAThousandPositions) {
   for (int i = 0; i < Positions; ++i) {
     SCOPED_TRACE(i);
-    Compare(RandomWalk(random_, 40, 60), RandomStart(), RandomRates(1, 50), Never);
+    Compare({RandomWalk(random_, 40, 60), RandomStart()}, RandomRates(1, 50), Never);
     if (HasFatalFailure()) return;
   }
 }
@@ -81,8 +86,15 @@ TEST_F(LiteralSearchTest, GoesTheSameWayFromAThousandPositions) {
 TEST_F(LiteralSearchTest, UnwindsTheSameWayWhereverItIsStopped) {
   for (int i = 0; i < Positions; ++i) {
     SCOPED_TRACE(i);
-    const int stopAtRedraw = 1 + static_cast<int>(random_() % 12);
-    Compare(RandomWalk(random_, 36, 60), RandomStart(), RandomRates(1, 9), stopAtRedraw);
+    Compare({RandomWalk(random_, 36, 60), RandomStart()}, RandomRates(1, 9), UpTo(12));
+    if (HasFatalFailure()) return;
+  }
+}
+
+TEST_F(LiteralSearchTest, GoesTheSameWayWhenNearlyEveryEntryIsShown) {
+  for (int i = 0; i < Positions; ++i) {
+    SCOPED_TRACE(i);
+    Compare({RandomWalk(random_, 1, 62), RandomStart()}, LowRate(), UpTo(60));
     if (HasFatalFailure()) return;
   }
 }
@@ -90,7 +102,7 @@ TEST_F(LiteralSearchTest, UnwindsTheSameWayWhereverItIsStopped) {
 TEST_F(LiteralSearchTest, FollowsTheRefreshRateWhileItChanges) {
   for (int i = 0; i < Positions / 10; ++i) {
     SCOPED_TRACE(i);
-    Compare(RandomWalk(random_, 36, 60), RandomStart(), RandomRates(7, 300), Never);
+    Compare({RandomWalk(random_, 36, 60), RandomStart()}, RandomRates(7, 300), Never);
     if (HasFatalFailure()) return;
   }
 }
@@ -98,19 +110,36 @@ TEST_F(LiteralSearchTest, FollowsTheRefreshRateWhileItChanges) {
 TEST_F(LiteralSearchTest, GoesTheSameWayFarFromTheEnd) {
   for (int i = 0; i < Positions / 20; ++i) {
     SCOPED_TRACE(i);
-    Compare(RandomWalk(random_, 1, 30), RandomStart(), RandomRates(3, 5000), 8);
+    Compare({RandomWalk(random_, 1, 30), RandomStart()}, RandomRates(3, 5000), 8);
     if (HasFatalFailure()) return;
   }
 }
 
-// Such a list is full while squares are still free.
+// The list of such a game is full while squares are still free.
 TEST_F(LiteralSearchTest, GoesTheSameWayWhenAGameFileNamedSquaresTwice) {
-  for (int i = 0; i < Positions / 10; ++i) {
+  for (int i = 0; i < Positions; ++i) {
     SCOPED_TRACE(i);
-    std::vector<MoveRow> moves = RandomWalk(random_, 36, 60);
-    const std::size_t twice = 1 + random_() % 4;
-    moves.insert(moves.begin(), moves.begin(), moves.begin() + static_cast<std::ptrdiff_t>(twice));
-    Compare(moves, StartOnStoredSquare, RandomRates(3, 300), 100);
+    Compare({FileWithSquaresNamedTwice(random_), RandomStart()}, RandomRates(3, 40), UpTo(30));
+    if (HasFatalFailure()) return;
+  }
+}
+
+// What was named twice is free as soon as it was undone once.
+TEST_F(LiteralSearchTest, GoesTheSameWayWhenSquaresNamedTwiceWereUndone) {
+  for (int i = 0; i < Positions; ++i) {
+    SCOPED_TRACE(i);
+    Compare({FileWithSquaresNamedTwice(random_), RandomStart(), UpTo(6)}, LowRate(), UpTo(60));
+    if (HasFatalFailure()) return;
+  }
+}
+
+// The knight then stands on a free square.
+TEST_F(LiteralSearchTest, GoesTheSameWayWhenTheLastSquareWasNamedTwiceAndUndoneOnce) {
+  for (int i = 0; i < Positions; ++i) {
+    SCOPED_TRACE(i);
+    std::vector<MoveRow> moves = RandomWalk(random_, 50, 62);
+    moves.push_back(moves.back());
+    Compare({moves, RandomStart(), 1}, RandomRates(3, 20), UpTo(100));
     if (HasFatalFailure()) return;
   }
 }

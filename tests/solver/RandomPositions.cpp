@@ -32,3 +32,14 @@ std::vector<MoveRow> RandomWalk(std::mt19937& random, std::size_t least, std::si
     if (moves.size() >= least) return moves;
   }
 }
+
+std::vector<MoveRow> FileWithSquaresNamedTwice(std::mt19937& random) {
+  std::vector<MoveRow> moves = RandomWalk(random, 20, 60);
+  const std::size_t length = moves.size() + 1 + random() % (SquareCount - moves.size());
+  while (moves.size() < length) {
+    const MoveRow again = moves[random() % moves.size()];
+    const auto before = static_cast<std::ptrdiff_t>(random() % (moves.size() + 1));
+    moves.insert(moves.begin() + before, again);
+  }
+  return moves;
+}

@@ -46,7 +46,7 @@ TEST_P(SolverCases, ComeOutToTheLastEntry) {
   SolverDesk desk;
   desk.refreshRate = static_cast<std::int16_t>(expected["refresh"].toInt());
   const std::vector<MoveRow> moves = Squares(expected["moves"]);
-  desk.BeginWith(moves);
+  desk.BeginWith({moves});
   const bool solved = desk.Solve();
 
   EXPECT_EQ(solved, expected["solved"].toBool());

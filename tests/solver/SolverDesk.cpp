@@ -1,8 +1,9 @@
 #include "tests/solver/SolverDesk.h"
 
-void SolverDesk::BeginWith(const std::vector<MoveRow>& moves, std::int16_t startingPosition) {
+void SolverDesk::BeginWith(const SolverPosition& position) {
+  const std::vector<MoveRow>& moves = position.moves;
   state = GameState();
-  options.StartingPosition = startingPosition;
+  options.StartingPosition = position.startingPosition;
   options.StartingX = moves.front().x;
   options.StartingY = moves.front().y;
   game.Form_Load("");
@@ -12,6 +13,7 @@ void SolverDesk::BeginWith(const std::vector<MoveRow>& moves, std::int16_t start
     if (!made) game.ValidMove(move.x, move.y);
   }
   state.FirstMoveMade = true;
+  for (int undone = 0; undone < position.undos; ++undone) game.mnuEditUndo_Click();
   window.onDoEvents = [this] {
     if (onRedraw) onRedraw();
   };

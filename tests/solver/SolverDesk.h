@@ -8,15 +8,21 @@
 #include "solver/TourSolver.h"
 #include "tests/support/GameTest.h"
 
+// Where a search begins: these moves made, the last of them undone. With the player's choice as the
+// starting position the first square is one that can be taken back.
+struct SolverPosition {
+  std::vector<MoveRow> moves;
+  std::int16_t startingPosition = StartOnStoredSquare;
+  int undos = 0;
+};
+
 // A game on which a search can be run, as the Solve window runs it.
 class SolverDesk : private SolveProgress {
  public:
   using Search = bool (*)(const SolveTask&);
 
-  // Starts the program and makes these moves. With the player's choice as the starting position the
-  // first square is one that can be taken back.
-  void BeginWith(const std::vector<MoveRow>& moves,
-                 std::int16_t startingPosition = StartOnStoredSquare);
+  // Starts the program and brings the game there.
+  void BeginWith(const SolverPosition& position);
   bool Solve(Search search = SolveTheGameNoRefresh);
   void ClearLog() { window.log.clear(); }
 

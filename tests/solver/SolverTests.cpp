@@ -23,41 +23,41 @@ class SolverTest : public testing::Test {
 }  // namespace
 
 TEST_F(SolverTest, ACompleteTourIsSolvedAtOnce) {
-  desk.BeginWith(TourMoves(64));
+  desk.BeginWith({TourMoves(64)});
   EXPECT_TRUE(desk.Solve());
   EXPECT_EQ(desk.redraws, std::vector<std::string>{"64/0/C1"});
 }
 
 TEST_F(SolverTest, WithoutAMoveThereIsNoSolutionAndNothingIsTouched) {
-  desk.BeginWith(SquaresNamed(Games::DeadEndAfter20));
+  desk.BeginWith({SquaresNamed(Games::DeadEndAfter20)});
   EXPECT_FALSE(desk.Solve());
   EXPECT_EQ(desk.solver.PositionsTested, 1);
   EXPECT_EQ(desk.window.log, Steps());
 }
 
 TEST_F(SolverTest, ATourThatIsFoundStaysOnTheBoard) {
-  desk.BeginWith(TourMoves(60));
+  desk.BeginWith({TourMoves(60)});
   EXPECT_TRUE(desk.Solve());
   EXPECT_EQ(desk.state.MoveCount, 64);
   EXPECT_TRUE(desk.game.CheckIfGameOver(desk.state.KnightX, desk.state.KnightY));
 }
 
 TEST_F(SolverTest, ATourThatIsFoundTurnsTheClockOff) {
-  desk.BeginWith(TourMoves(60));
+  desk.BeginWith({TourMoves(60)});
   desk.window.EnableClock(true);
   EXPECT_TRUE(desk.Solve());
   EXPECT_FALSE(desk.window.IsClockEnabled());
 }
 
 TEST_F(SolverTest, TheClockRunsOnWhenThereIsNoSolution) {
-  desk.BeginWith(SquaresNamed(Games::DeadEndAfter20));
+  desk.BeginWith({SquaresNamed(Games::DeadEndAfter20)});
   desk.window.EnableClock(true);
   EXPECT_FALSE(desk.Solve());
   EXPECT_TRUE(desk.window.IsClockEnabled());
 }
 
 TEST_F(SolverTest, AtRateOneEverySecondEntryIsShown) {
-  desk.BeginWith(TourMoves(40));
+  desk.BeginWith({TourMoves(40)});
   desk.refreshRate = 1;
   StopAtRedraw(3);
   desk.Solve();
@@ -65,7 +65,7 @@ TEST_F(SolverTest, AtRateOneEverySecondEntryIsShown) {
 }
 
 TEST_F(SolverTest, AtRateTwoEveryThirdEntryIsShown) {
-  desk.BeginWith(TourMoves(40));
+  desk.BeginWith({TourMoves(40)});
   desk.refreshRate = 2;
   StopAtRedraw(2);
   desk.Solve();
@@ -73,7 +73,7 @@ TEST_F(SolverTest, AtRateTwoEveryThirdEntryIsShown) {
 }
 
 TEST_F(SolverTest, AChangedRateCountsFromTheNextEntry) {
-  desk.BeginWith(TourMoves(40));
+  desk.BeginWith({TourMoves(40)});
   desk.refreshRate = 1;
   std::vector<std::int64_t> entries;
   desk.onRedraw = [&] {
@@ -86,7 +86,7 @@ TEST_F(SolverTest, AChangedRateCountsFromTheNextEntry) {
 }
 
 TEST_F(SolverTest, ARedrawDrawsTheBoardThenTheLabelsAndThenLetsEventsRun) {
-  desk.BeginWith(TourMoves(40));
+  desk.BeginWith({TourMoves(40)});
   Steps lastSteps;
   bool shown = false;
   desk.onRedraw = [&] {
@@ -100,7 +100,7 @@ TEST_F(SolverTest, ARedrawDrawsTheBoardThenTheLabelsAndThenLetsEventsRun) {
 }
 
 TEST_F(SolverTest, BetweenTwoRedrawsNothingIsShown) {
-  desk.BeginWith(TourMoves(40));
+  desk.BeginWith({TourMoves(40)});
   desk.refreshRate = 1;
   int drawn = 0;
   desk.window.onRestoreColors = [&] { drawn += desk.state.SolverRunning ? 0 : 1; };
@@ -110,7 +110,7 @@ TEST_F(SolverTest, BetweenTwoRedrawsNothingIsShown) {
 }
 
 TEST_F(SolverTest, AfterAStopTheGameIsWhereItWas) {
-  desk.BeginWith(TourMoves(40));
+  desk.BeginWith({TourMoves(40)});
   StopAtRedraw(2);
   EXPECT_FALSE(desk.Solve());
   EXPECT_EQ(MovesMade(desk.state), TourMoves(40));
@@ -118,7 +118,7 @@ TEST_F(SolverTest, AfterAStopTheGameIsWhereItWas) {
 }
 
 TEST_F(SolverTest, AStoppedSearchCanBeginAnew) {
-  desk.BeginWith(TourMoves(40));
+  desk.BeginWith({TourMoves(40)});
   StopAtRedraw(2);
   desk.Solve();
   const std::vector<std::string> first = desk.redraws;
@@ -127,14 +127,14 @@ TEST_F(SolverTest, AStoppedSearchCanBeginAnew) {
 }
 
 TEST_F(SolverTest, AStopWhileTheTourIsShownComesTooLate) {
-  desk.BeginWith(TourMoves(62));
+  desk.BeginWith({TourMoves(62)});
   StopAtRedraw(1);
   EXPECT_TRUE(desk.Solve());
   EXPECT_EQ(desk.state.MoveCount, 64);
 }
 
 TEST_F(SolverTest, AStopOnTheLastSquareButOneComesTooLate) {
-  desk.BeginWith(TourMoves(62));
+  desk.BeginWith({TourMoves(62)});
   desk.refreshRate = 1;
   StopAtRedraw(1);
   EXPECT_TRUE(desk.Solve());

@@ -4,6 +4,7 @@
 
 #include "solver/TourSearch.h"
 #include "tests/solver/RandomPositions.h"
+#include "tests/support/Games.h"
 
 namespace {
 
@@ -49,6 +50,27 @@ TEST(TourSearchTest, TriesTheEightMovesInTheirOrder) {
   EXPECT_EQ(search.Move(2), (MoveRow{5, 7}));
 }
 
+TEST(TourSearchTest, GoesBackToTheKnightsOwnSquareWhenItIsFree) {
+  GameState game;
+  game.Board.fill(GameState::Visited);
+  game.Cell(0, 0) = GameState::Unvisited;
+  game.Cell(1, 2) = GameState::Unvisited;
+  game.MoveCount = 62;
+  game.MoveList[61] = {0, 0};
+  TourSearch search(game);
+  EXPECT_EQ(search.Run(100), TourSearch::Outcome::Solved);
+  EXPECT_EQ(search.Move(62), (MoveRow{1, 2}));
+  EXPECT_EQ(search.Move(63), (MoveRow{0, 0}));
+}
+
+TEST(TourSearchTest, TriesNothingMoreWhenTheListOfMovesIsFullBeforeTheBoardIs) {
+  GameState game = GameOf({{0, 0}});
+  game.MoveCount = SquareCount;
+  TourSearch search(game);
+  EXPECT_EQ(search.Run(100), TourSearch::Outcome::Exhausted);
+  EXPECT_EQ(search.Entries(), 1);
+}
+
 TEST(TourSearchTest, StandsWhereEveryEntryOnTheWayWouldHaveBroughtIt) {
   std::mt19937 random(7);
   TourSearch folded(GameOf({{0, 0}}));
@@ -60,6 +82,16 @@ TEST(TourSearchTest, StandsWhereEveryEntryOnTheWayWouldHaveBroughtIt) {
     ASSERT_EQ(folded.Entries(), walked.Entries());
     ASSERT_EQ(MovesOf(folded), MovesOf(walked)) << folded.Entries();
   }
+}
+
+// On its way it leaves a square behind, goes through the rest and comes back. The next time the
+// rest is all that is free, and the tour runs through it.
+TEST(TourSearchTest, FindsATourOverSquaresThatItHasBeenThroughWithAnotherLeftFree) {
+  TourSearch search(GameOf(
+      SquaresNamed("H5 F4 D3 B2 A4 C3 B5 A3 B1 D2 F3 E1 C2 A1 B3 C1 A2 B4 C6 E5 C4 A5 B7 D8 F7 H8 "
+                   "G6 F8 H7 G5 H3 G1 E2 D4 F5 H4 G2 E3 D1 F2 H1 G3")));
+  EXPECT_EQ(search.Run(1000), TourSearch::Outcome::Solved);
+  EXPECT_EQ(search.Entries(), 59);
 }
 
 TEST(TourSearchTest, EndsAfterAsManyEntriesHoweverOftenItPauses) {
