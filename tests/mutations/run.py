@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Breaks twenty conditions that matter, one after the other, and sees that a test notices each.
+"""Breaks conditions that matter, one after the other, and sees that a test notices each.
 
     tests/mutations/run.py
 
@@ -38,6 +38,15 @@ MUTATIONS = (
     ("storage/GameFile.cpp", "if (x != -1) file.failure", "if (x != -2) file.failure", "storage"),
     ("storage/FileWriter.cpp", "if (lock.IsHeld()) Remove", "if (!lock.IsHeld()) Remove", "storage"),
     ("storage/MoveListExport.cpp", '".rtf"', '".RTF"', "storage"),
+    ("solver/TourSearch.cpp", "  start_->within = free;", "", "solver"),
+    ("solver/TourSearch.cpp", "level_->tries = 0;", "{}", "solver"),
+    ("solver/SubtreeSizes.h", "(row.rest & RootMask) == Root(subtree)",
+     "((row.rest ^ Root(subtree)) & RootMask) <= 1", "solver"),
+    ("solver/TourSolver.cpp", "task.window.RestoreColors(-1, -1);",
+     "task.window.RestoreColors(-1, -1);\n  task.window.RestoreColors(-1, -1);", "solver"),
+    ("solver/Autoplay.cpp", "game.MakeRandomStartingMove();\n    window.RestoreColors(-1, -1);",
+     "game.MakeRandomStartingMove();", "solver"),
+    ("solver/Autoplay.cpp", "  random.Reseed();", "", "solver"),
 )
 
 

@@ -48,6 +48,17 @@ TEST_F(AutoplayTest, TakesARandomFirstSquareOnAnEmptyBoard) {
   EXPECT_TRUE(IsOver());
 }
 
+TEST_F(AutoplayTest, DrawsTheFirstSquareBeforeItWalksOn) {
+  Begin(StartOnPlayersChoice);
+  TakeLog();
+  Autoplay();
+  const Steps log = TakeLog();
+  const std::string aMoveBegins = "mnuEditUndo on";
+  const auto first = std::find(log.begin(), log.end(), aMoveBegins);
+  const auto second = std::find(first + 1, log.end(), aMoveBegins);
+  EXPECT_EQ(*(second - 1), "RestoreColors -1 -1");
+}
+
 TEST_F(AutoplayTest, OnADeadEndMakesNoMoveButTheGameIsOutOfTheScores) {
   Begin();
   window.onEndGame = [](const GameOverReport&) {};
@@ -114,6 +125,17 @@ TEST_F(AutoplayTest, WalksDifferentlyEveryTime) {
   std::set<std::string> ends;
   for (int walk = 0; walk < 10; ++walk) {
     Begin();
+    Autoplay();
+    ends.insert(Knight() + std::to_string(state.MoveCount));
+  }
+  EXPECT_GT(ends.size(), 1U);
+}
+
+TEST_F(AutoplayTest, WalksDifferentlyFromTheSameRandomNumbers) {
+  std::set<std::string> ends;
+  for (int walk = 0; walk < 10; ++walk) {
+    Begin();
+    random = Random();
     Autoplay();
     ends.insert(Knight() + std::to_string(state.MoveCount));
   }
