@@ -14,6 +14,7 @@
 #include <QTimer>
 
 #include "ui/board/BoardView.h"
+#include "ui/commands/Solve.h"
 
 namespace {
 
@@ -81,7 +82,7 @@ void SolveSession::InSolveWindow(int refreshRate, const std::function<void(QWidg
     act(solve);
     solve.close();
   });
-  window_.mnuFileSolve_Click();
+  mnuFileSolve_Click(window_.Context());
 }
 
 SearchReport SolveSession::Search(int refreshRate, int milliseconds) {

@@ -1,4 +1,5 @@
 #include <limits>
+#include <utility>
 
 #include "core/Game.h"
 #include "core/NumberText.h"
@@ -18,7 +19,9 @@ void Game::DoCaption() {
   if (options_.ShowTime) {
     caption.append(" - ").append(TimeString(state_.ElapsedHalfSeconds));
   }
-  if (caption != window_.Caption()) window_.SetCaption(caption);
+  if (caption == caption_) return;
+  window_.SetCaption(caption);
+  caption_ = std::move(caption);
 }
 
 bool Game::DoTiming() {

@@ -1,11 +1,22 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 
 #include "core/GameState.h"
 #include "core/GameWindow.h"
 #include "core/Random.h"
+
+// What a game file tells up to its end, or up to where it could not be read any further.
+struct SavedGame {
+  std::optional<std::int32_t> elapsedHalfSeconds;  // none: not even the clock could be read
+  bool noScoreGame = false;
+  std::span<const MoveRow> moves;  // squares of the board, at most 64; perhaps not knight's moves
+};
 
 // The rules and the flow of one game, written against the window's seam.
 class Game {
@@ -26,24 +37,32 @@ class Game {
   void pctGrid_Click(int index);
   // button -1 forces the highlight, as a step of the keyboard cursor does.
   void pctGrid_MouseMove(int index, int button);
+  // Highlights anew at the cursor.
+  void RefreshHighlight();
+  // Gives every square the highlight once and then its own look, so that each colour and picture is
+  // assigned afresh. The cursor stays where it is.
+  void RepaintWholeBoard();
   // keyCode: a Windows virtual-key code.
   void pctGrid_KeyDown(int keyCode);
 
   // --- Flow ---
   bool GameInProgress() const;
-  // commandLine: the program's arguments joined by one blank.
-  void Form_Load(const std::string& commandLine);
-  // False when the player chose to stay.
+  // Start-up. setUp places the window, makes the board and reads the settings; the first square is
+  // taken after it.
+  void Form_Load(const std::function<void()>& setUp);
+  // Asks before a game in progress is left; false when the player chose to stay.
   bool Form_Unload();
   void mnuFileNew_Click();
   // A new game without any question.
   void StartNewGame();
   void mnuFileRestart_Click();
+  // Leaves the present game for one from a file, whose moves are seen being made, untested.
+  void OpenSavedGame(const SavedGame& saved);
+  // The game may not enter the score lists.
+  void ExcludeFromScores() { state_.NoScoreGame = true; }
   // Sets clock and menus after a command that made moves by itself: a finished game can only be
   // replayed, any other is played on.
   void GoOnOrFinish();
-  // A finished game: it can be saved as a replay, but neither saved nor played on.
-  void DisablePlayOn();
 
   // --- Undo and redo ---
   void mnuEditUndo_Click();
@@ -64,9 +83,8 @@ class Game {
  private:
   void AnnounceEnd();
   void RewindToFirstSquare();
-  void SetMenusOfFreshGame();
+  void ClearBoard();
   void PlaceCursorOfFreshGame();
-  void OpenCommandLineGame(const std::string& commandLine);
   void MoveCursor(int keyCode);
   void ClickOnCursor();
 
@@ -74,4 +92,9 @@ class Game {
   GameOptions& options_;
   GameWindow& window_;
   Random random_;
+  std::string caption_;  // what the window shows
 };
+
+// The game file that a command line names, its arguments joined by one blank: one that ends in
+// ".knight", or in "knight" and the quotation mark that came with the name.
+std::optional<std::string> GameFileOf(std::string_view commandLine);

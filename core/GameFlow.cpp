@@ -1,44 +1,38 @@
 #include "core/Game.h"
+#include "core/Menus.h"
 
 bool Game::GameInProgress() const {
   if (CheckIfGameOver(state_.KnightX, state_.KnightY)) return false;
   return state_.MoveCount > 1 || (state_.GameStartingPosition == 1 && state_.MoveCount != 0);
 }
 
-void Game::Form_Load(const std::string& commandLine) {
-  state_.ApplyingMoves = true;
-  state_.SolverRunning = false;
-  state_.NoScoreGame = false;
-  state_.MoveCount = 0;
-  for (std::size_t row = 0; row < SquareCount; ++row) state_.MoveList[row] = EmptyMove;
-
-  window_.OpenSettingsAndPlaceWindow();
-  window_.CreateBoard();
-  window_.LoadGameSetup();
-  SetupFirstMove();
-  window_.RestoreColors(-1, -1);
-  ResetClock();
-  window_.SetMenuEnabled(MenuEntry::mnuEditRedo, false);
-  SetMenusOfFreshGame();
-  state_.GameStartingPosition = options_.StartingPosition;
-  PlaceCursorOfFreshGame();
-  state_.ApplyingMoves = false;
-  pctGrid_MouseMove(SquareIndex(state_.CursorX, state_.CursorY), 0);
-  window_.RestoreColors(-1, -1);
+void Game::Form_Load(const std::function<void()>& setUp) {
+  {
+    const ApplyingMovesScope applying(state_);
+    state_.SolverRunning = false;
+    state_.NoScoreGame = false;
+    state_.MoveCount = 0;
+    for (std::size_t row = 0; row < SquareCount; ++row) state_.MoveList[row] = EmptyMove;
+    setUp();
+    SetupFirstMove();
+    window_.RestoreColors();
+    ResetClock();
+    SwitchMenus(window_, MenuChange::NothingToRedo);
+    SwitchMenus(window_, MenuChange::FreshGame);
+    state_.GameStartingPosition = options_.StartingPosition;
+    PlaceCursorOfFreshGame();
+  }
+  RefreshHighlight();
+  window_.RestoreColors();
   DoCaption();
-  OpenCommandLineGame(commandLine);
 }
 
-// Only these two endings name a game file; the second is a name that came with its quotes.
-void Game::OpenCommandLineGame(const std::string& commandLine) {
+std::optional<std::string> GameFileOf(std::string_view commandLine) {
   constexpr std::size_t endingLength = 7;
-  if (commandLine.size() <= endingLength) return;
-  window_.ShowWindow();
-  if (commandLine.ends_with(".knight")) {
-    window_.OpenGameFile(commandLine);
-  } else if (commandLine.ends_with("knight\"")) {
-    window_.OpenGameFile(commandLine.substr(1, commandLine.size() - 2));
-  }
+  if (commandLine.size() <= endingLength) return std::nullopt;
+  if (commandLine.ends_with(".knight")) return std::string(commandLine);
+  if (!commandLine.ends_with("knight\"")) return std::nullopt;
+  return std::string(commandLine.substr(1, commandLine.size() - 2));
 }
 
 bool Game::Form_Unload() {
@@ -49,7 +43,6 @@ bool Game::Form_Unload() {
       return false;
     }
   }
-  window_.SaveSettings();
   return true;
 }
 
@@ -68,31 +61,43 @@ void Game::StartNewGame() {
   ++state_.GameSerial;
   state_.NoScoreGame = false;
   state_.GameStartingPosition = options_.StartingPosition;
-  ClearRedo();
-  state_.MoveCount = 0;
-  for (int x = 0; x < BoardSide; ++x) {
-    for (int y = 0; y < BoardSide; ++y) {
-      state_.MoveList[static_cast<std::size_t>(SquareIndex(x, y))] = EmptyMove;
-      state_.Cell(x, y) = GameState::Unvisited;
-    }
-  }
+  ClearBoard();
   SetupFirstMove();
-  window_.RestoreColors(-1, -1);
+  window_.RestoreColors();
   PlaceCursorOfFreshGame();
   ResetClock();
   DoCaption();
-  SetMenusOfFreshGame();
+  SwitchMenus(window_, MenuChange::FreshGame);
 }
 
-void Game::SetMenusOfFreshGame() {
-  for (const MenuEntry entry :
-       {MenuEntry::mnuEditUndo, MenuEntry::mnuViewHistory, MenuEntry::mnuEditHistory,
-        MenuEntry::mnuFileRestart, MenuEntry::mnuViewReplay, MenuEntry::mnuFileSave,
-        MenuEntry::mnuFileSaveReplay}) {
-    window_.SetMenuEnabled(entry, false);
+void Game::ClearBoard() {
+  ClearRedo();
+  state_.MoveCount = 0;
+  state_.Board.fill(GameState::Unvisited);
+  // Row 64 stays as it is.
+  for (std::size_t row = 0; row < SquareCount; ++row) state_.MoveList[row] = EmptyMove;
+}
+
+// The board is seen filling; whoever wants to close the window need not wait for it.
+void Game::OpenSavedGame(const SavedGame& saved) {
+  ++state_.GameSerial;
+  ClearBoard();
+  state_.GameStartingPosition = 0;
+  state_.FirstMoveMade = true;
+
+  const WorkScope work(window_.Guard());
+  const ApplyingMovesScope applying(state_);
+  if (saved.elapsedHalfSeconds) {
+    state_.ElapsedHalfSeconds = *saved.elapsedHalfSeconds - 1;
+    tmrTime_Timer();
+    state_.NoScoreGame = saved.noScoreGame;
   }
-  window_.SetMenuEnabled(MenuEntry::mnuFileAutoplay, true);
-  window_.SetMenuEnabled(MenuEntry::mnuFileSolve, true);
+  for (const MoveRow& move : saved.moves) {
+    ValidMove(move.x, move.y);
+    if (!window_.Guard().IsCloseRequested()) window_.DoEvents();
+  }
+  state_.CursorX = state_.KnightX;
+  state_.CursorY = state_.KnightY;
 }
 
 void Game::PlaceCursorOfFreshGame() {
@@ -109,7 +114,7 @@ void Game::mnuFileRestart_Click() {
     return;
   }
   RewindToFirstSquare();
-  SetMenusOfFreshGame();
+  SwitchMenus(window_, MenuChange::FreshGame);
   if (state_.ApplyingMoves) return;
   ClearRedo();
   state_.NoScoreGame = false;
@@ -118,28 +123,18 @@ void Game::mnuFileRestart_Click() {
 
 // The player sees the tour rewind; whoever wants to close the window need not wait for it.
 void Game::RewindToFirstSquare() {
-  const WorkScope work(window_);
+  const WorkScope work(window_.Guard());
   for (int undos = state_.MoveCount - 1; undos > 0; --undos) {
     mnuEditUndo_Click();
-    if (!window_.IsCloseRequested()) window_.DoEvents();
+    if (!window_.Guard().IsCloseRequested()) window_.DoEvents();
   }
-}
-
-void Game::DisablePlayOn() {
-  window_.SetMenuEnabled(MenuEntry::mnuFileSave, false);
-  window_.SetMenuEnabled(MenuEntry::mnuFileSaveReplay, true);
-  window_.SetMenuEnabled(MenuEntry::mnuFileAutoplay, false);
-  window_.SetMenuEnabled(MenuEntry::mnuFileSolve, false);
 }
 
 void Game::GoOnOrFinish() {
   if (CheckIfGameOver(state_.KnightX, state_.KnightY)) {
-    DisablePlayOn();
+    SwitchMenus(window_, MenuChange::FinishedGame);
     return;
   }
   window_.EnableClock(true);
-  window_.SetMenuEnabled(MenuEntry::mnuFileSave, true);
-  window_.SetMenuEnabled(MenuEntry::mnuFileSaveReplay, false);
-  window_.SetMenuEnabled(MenuEntry::mnuFileAutoplay, true);
-  window_.SetMenuEnabled(MenuEntry::mnuFileSolve, true);
+  SwitchMenus(window_, MenuChange::GameGoesOn);
 }

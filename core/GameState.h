@@ -65,3 +65,15 @@ struct GameState {
   std::int16_t& Cell(int x, int y) { return Board[CellIndex(x, y)]; }
   std::int16_t Cell(int x, int y) const { return Board[CellIndex(x, y)]; }
 };
+
+// The program makes moves by itself for the length of a scope.
+class ApplyingMovesScope {
+ public:
+  explicit ApplyingMovesScope(GameState& state) : state_(state) { state_.ApplyingMoves = true; }
+  ~ApplyingMovesScope() { state_.ApplyingMoves = false; }
+  ApplyingMovesScope(const ApplyingMovesScope&) = delete;
+  ApplyingMovesScope& operator=(const ApplyingMovesScope&) = delete;
+
+ private:
+  GameState& state_;
+};

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "core/WorkGuard.h"
+
 // The menu entries that the game switches on and off or checks.
 enum class MenuEntry {
   mnuFileSave,
@@ -44,13 +46,11 @@ class GameWindow {
   virtual bool IsMenuEnabled(MenuEntry entry) const = 0;
   virtual void SetMenuChecked(MenuEntry entry, bool checked) = 0;
 
-  // Brings every square into the look that the game asks for; (x, y) is the square that the caller
-  // is about to highlight, (-1, -1) asks for a full refresh.
-  virtual void RestoreColors(int x, int y) = 0;
+  // Brings every square into the look that the game asks for.
+  virtual void RestoreColors() = 0;
   // Highlights a square by the highlighting rules; forced: whatever the method.
   virtual void HighlightSquare(int index, bool forced) = 0;
 
-  virtual std::string Caption() const = 0;
   virtual void SetCaption(const std::string& caption) = 0;
 
   // The clock timer, which calls Game::tmrTime_Timer twice a second while it is enabled.
@@ -68,29 +68,6 @@ class GameWindow {
   // Lets pending events run.
   virtual void DoEvents() = 0;
 
-  // Between these two calls everything that the player does is ignored, not kept for later; a
-  // request to close the window is remembered, and IsCloseRequested tells the work to end early.
-  virtual void BeginWork() = 0;
-  virtual void EndWork() = 0;
-  virtual bool IsCloseRequested() const = 0;
-
-  // Steps of start-up and shut-down.
-  virtual void OpenSettingsAndPlaceWindow() = 0;
-  virtual void CreateBoard() = 0;
-  virtual void LoadGameSetup() = 0;
-  virtual void ShowWindow() = 0;
-  virtual void OpenGameFile(const std::string& fileName) = 0;
-  virtual void SaveSettings() = 0;
-};
-
-// Work that must not be disturbed, for the length of a scope.
-class WorkScope {
- public:
-  explicit WorkScope(GameWindow& window) : window_(window) { window_.BeginWork(); }
-  ~WorkScope() { window_.EndWork(); }
-  WorkScope(const WorkScope&) = delete;
-  WorkScope& operator=(const WorkScope&) = delete;
-
- private:
-  GameWindow& window_;
+  // What keeps the player from disturbing work that is going on.
+  virtual WorkGuard& Guard() = 0;
 };

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "core/Game.h"
+#include "core/Menus.h"
 
 namespace {
 
@@ -30,22 +31,13 @@ bool Game::CheckIfGameOver(int x, int y) const {
 void Game::ValidMove(int x, int y) {
   // A game file may list squares twice: its list is then full while squares are still free.
   if (state_.MoveCount == SquareCount) return;
-  window_.SetMenuEnabled(MenuEntry::mnuEditUndo, true);
-  window_.SetMenuEnabled(MenuEntry::mnuViewHistory, true);
-  window_.SetMenuEnabled(MenuEntry::mnuEditHistory, true);
-  if (state_.MoveCount >= 1) {
-    window_.SetMenuEnabled(MenuEntry::mnuFileRestart, true);
-    window_.SetMenuEnabled(MenuEntry::mnuViewReplay, true);
-  }
-  window_.SetMenuEnabled(MenuEntry::mnuFileSave, true);
-  window_.SetMenuEnabled(MenuEntry::mnuFileAutoplay, true);
-  window_.SetMenuEnabled(MenuEntry::mnuFileSolve, true);
+  SwitchMenus(window_, state_.MoveCount == 0 ? MenuChange::FirstSquareTaken : MenuChange::MoveMade);
 
   const MoveRow move{static_cast<std::int16_t>(x), static_cast<std::int16_t>(y)};
   state_.Cell(x, y) = GameState::Visited;
   state_.KnightX = state_.CursorX = move.x;
   state_.KnightY = state_.CursorY = move.y;
-  window_.RestoreColors(-1, -1);
+  window_.RestoreColors();
   state_.MoveList[static_cast<std::size_t>(state_.MoveCount)] = move;
   ++state_.MoveCount;
   DoCaption();
@@ -56,7 +48,7 @@ void Game::ValidMove(int x, int y) {
 }
 
 void Game::AnnounceEnd() {
-  DisablePlayOn();
+  SwitchMenus(window_, MenuChange::FinishedGame);
   window_.EnableClock(false);
   window_.EndGame({state_.NoScoreGame ? "View &Replay" : "&Submit to Scores",
                    EndMessage(state_.MoveCount), state_.MoveCount, state_.ElapsedHalfSeconds});
@@ -72,7 +64,7 @@ void Game::SetupFirstMove() {
   } else {
     MakeRandomStartingMove();
   }
-  pctGrid_MouseMove(SquareIndex(state_.CursorX, state_.CursorY), 0);
+  RefreshHighlight();
 }
 
 void Game::MakeRandomStartingMove() {
@@ -92,7 +84,7 @@ void Game::pctGrid_Click(int index) {
     ClearRedo();
     ValidMove(x, y);
     state_.FirstMoveMade = true;
-    window_.RestoreColors(-1, -1);
+    window_.RestoreColors();
     return;
   }
   const bool free = state_.Cell(x, y) == GameState::Unvisited;
@@ -108,4 +100,17 @@ void Game::pctGrid_MouseMove(int index, int button) {
   state_.CursorX = static_cast<std::int16_t>(ColumnOf(index));
   state_.CursorY = static_cast<std::int16_t>(RowOf(index));
   window_.HighlightSquare(index, forced);
+}
+
+void Game::RefreshHighlight() {
+  pctGrid_MouseMove(SquareIndex(state_.CursorX, state_.CursorY), 0);
+}
+
+void Game::RepaintWholeBoard() {
+  const std::int16_t cursorX = state_.CursorX;
+  const std::int16_t cursorY = state_.CursorY;
+  for (int index = SquareCount - 1; index >= 0; --index) pctGrid_MouseMove(index, -1);
+  state_.CursorX = cursorX;
+  state_.CursorY = cursorY;
+  window_.RestoreColors();
 }

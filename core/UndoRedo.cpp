@@ -1,7 +1,8 @@
 #include "core/Game.h"
+#include "core/Menus.h"
 
 void Game::ClearRedo() {
-  window_.SetMenuEnabled(MenuEntry::mnuEditRedo, false);
+  SwitchMenus(window_, MenuChange::NothingToRedo);
   for (int i = state_.MoveCount; i < SquareCount; ++i) {
     MoveRow& row = state_.MoveList[static_cast<std::size_t>(i)];
     if (row.x == EmptyMove.x) return;
@@ -19,8 +20,8 @@ void Game::mnuEditRedo_Click() {
   state_.FirstMoveMade = true;
   ValidMove(move.x, move.y);
   const MoveRow next = state_.MoveList[static_cast<std::size_t>(state_.MoveCount)];
-  if (next.x == EmptyMove.x) window_.SetMenuEnabled(MenuEntry::mnuEditRedo, false);
-  window_.RestoreColors(-1, -1);
+  if (next.x == EmptyMove.x) SwitchMenus(window_, MenuChange::NothingToRedo);
+  window_.RestoreColors();
 }
 
 void Game::mnuEditUndo_Click() {
@@ -31,21 +32,12 @@ void Game::mnuEditUndo_Click() {
   if (state_.MoveCount == 1) {
     if (!playerPickedFirstSquare) return;
     state_.FirstMoveMade = false;
-    window_.SetMenuEnabled(MenuEntry::mnuEditUndo, false);
-    window_.SetMenuEnabled(MenuEntry::mnuViewHistory, false);
-    window_.SetMenuEnabled(MenuEntry::mnuViewReplay, false);
-    window_.SetMenuEnabled(MenuEntry::mnuFileSave, false);
+    SwitchMenus(window_, MenuChange::PlayersSquareUndone);
+  } else if (playerPickedFirstSquare && state_.MoveCount == 2) {
+    SwitchMenus(window_, MenuChange::BackOnPlayersSquare);
   } else {
-    window_.SetMenuEnabled(MenuEntry::mnuFileSave, true);
+    SwitchMenus(window_, MenuChange::MoveUndone);
   }
-  window_.SetMenuEnabled(MenuEntry::mnuFileAutoplay, true);
-  window_.SetMenuEnabled(MenuEntry::mnuFileSolve, true);
-  window_.SetMenuEnabled(MenuEntry::mnuFileSaveReplay, false);
-  if (playerPickedFirstSquare && state_.MoveCount == 2) {
-    window_.SetMenuEnabled(MenuEntry::mnuFileRestart, false);
-    window_.SetMenuEnabled(MenuEntry::mnuViewReplay, false);
-  }
-  window_.SetMenuEnabled(MenuEntry::mnuEditRedo, true);
 
   --state_.MoveCount;
   const MoveRow undone = state_.MoveList[static_cast<std::size_t>(state_.MoveCount)];
@@ -55,14 +47,10 @@ void Game::mnuEditUndo_Click() {
                              : MoveRow{0, 0};
   state_.KnightX = before.x;
   state_.KnightY = before.y;
-  window_.RestoreColors(-1, -1);
+  window_.RestoreColors();
 
   if (!state_.ApplyingMoves) window_.EnableClock(true);
   if (!playerPickedFirstSquare && state_.MoveCount == 1) {
-    for (const MenuEntry entry :
-         {MenuEntry::mnuEditUndo, MenuEntry::mnuViewHistory, MenuEntry::mnuFileRestart,
-          MenuEntry::mnuViewReplay, MenuEntry::mnuFileSave, MenuEntry::mnuFileSaveReplay}) {
-      window_.SetMenuEnabled(entry, false);
-    }
+    SwitchMenus(window_, MenuChange::BackOnFixedSquare);
   }
 }

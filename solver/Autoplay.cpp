@@ -1,5 +1,6 @@
 #include "solver/Autoplay.h"
 
+#include "core/Menus.h"
 #include "solver/TourOrder.h"
 
 namespace {
@@ -15,27 +16,28 @@ void MoveAtRandom(Game& game, GameState& state, GameWindow& window, Random& rand
   const int y = state.KnightY + offset.dy;
   if (!IsSquare(x, y) || state.Cell(x, y) != GameState::Unvisited) return;
   game.ValidMove(x, y);
-  window.RestoreColors(-1, -1);
+  window.RestoreColors();
   window.DoEvents();
 }
 
 }  // namespace
 
 void mnuFileAutoplay_Click(Game& game, GameState& state, GameWindow& window, Random& random) {
-  const WorkScope work(window);
+  const WorkScope work(window.Guard());
   state.NoScoreGame = true;
   game.ClearRedo();
   if (state.MoveCount == 0) {
     game.MakeRandomStartingMove();
-    window.RestoreColors(-1, -1);
+    window.RestoreColors();
   }
   random.Reseed();
-  state.ApplyingMoves = true;
-  while (MayMoveOn(game, state) && !window.IsCloseRequested()) {
-    MoveAtRandom(game, state, window, random);
+  {
+    const ApplyingMovesScope applying(state);
+    while (MayMoveOn(game, state) && !window.Guard().IsCloseRequested()) {
+      MoveAtRandom(game, state, window, random);
+    }
   }
-  state.ApplyingMoves = false;
   window.EnableClock(false);
   // A walk that was broken off leaves a game that can be played on.
-  if (!MayMoveOn(game, state)) game.DisablePlayOn();
+  if (!MayMoveOn(game, state)) SwitchMenus(window, MenuChange::AutoplayEnded);
 }

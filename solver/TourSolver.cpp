@@ -32,7 +32,7 @@ void FollowSearch(const SolveTask& task, const TourSearch& search) {
 
 void ShowAndYield(const SolveTask& task) {
   task.state.SolverRunning = false;
-  task.window.RestoreColors(-1, -1);
+  task.window.RestoreColors();
   task.progress.ShowProgress();
   task.window.DoEvents();
   task.state.SolverRunning = true;

@@ -120,10 +120,10 @@ TEST_F(Click, OnTheFirstSquareTakesItsStepsInOrder) {
                            "mnuFileSave on",
                            "mnuFileAutoplay on",
                            "mnuFileSolve on",
-                           "RestoreColors -1 -1",
+                           "RestoreColors",
                            "caption Gallopade Nova: 1 - 0:00:00.0",
                            "clock on",
-                           "RestoreColors -1 -1",
+                           "RestoreColors",
                        }));
 }
 

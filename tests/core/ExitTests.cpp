@@ -10,10 +10,10 @@ const std::string Question =
 using Exit = GameTest;
 using GameInProgress = GameTest;
 
-TEST_F(Exit, KeepsTheSettingsAndAsksNothingWithoutAGameInProgress) {
+TEST_F(Exit, AsksNothingWithoutAGameInProgress) {
   Begin();
   EXPECT_TRUE(game.Form_Unload());
-  EXPECT_EQ(TakeLog(), Steps{"SaveSettings"});
+  EXPECT_EQ(TakeLog(), Steps{});
 }
 
 TEST_F(Exit, AsksNothingAfterTheEndOfAGame) {
@@ -21,7 +21,7 @@ TEST_F(Exit, AsksNothingAfterTheEndOfAGame) {
   PlaySquares(game, Games::DeadEndAfter20);
   window.log.clear();
   EXPECT_TRUE(game.Form_Unload());
-  EXPECT_EQ(TakeLog(), Steps{"SaveSettings"});
+  EXPECT_EQ(TakeLog(), Steps{});
 }
 
 TEST_F(Exit, AsksBeforeItLeavesAGameInProgress) {
@@ -30,7 +30,7 @@ TEST_F(Exit, AsksBeforeItLeavesAGameInProgress) {
   window.log.clear();
   window.answers = {PlayerSays::Yes};
   EXPECT_TRUE(game.Form_Unload());
-  EXPECT_EQ(TakeLog(), (Steps{"clock off", Question, "SaveSettings"}));
+  EXPECT_EQ(TakeLog(), (Steps{"clock off", Question}));
 }
 
 TEST_F(Exit, LetsThePlayerStay) {

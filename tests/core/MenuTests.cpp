@@ -1,5 +1,6 @@
 #include <utility>
 
+#include "core/Menus.h"
 #include "tests/support/GameTest.h"
 
 namespace {
@@ -142,7 +143,7 @@ TEST_F(Menus, LoseRedoWithANewMove) {
 TEST_F(Menus, OfAnUnfinishedGameLetItGoOnAfterTheProgramsOwnMoves) {
   Begin();
   PlayTour(game, 5);
-  game.DisablePlayOn();
+  SwitchMenus(window, MenuChange::FinishedGame);
   window.log.clear();
   game.GoOnOrFinish();
   EXPECT_EQ(TakeLog(), (Steps{"clock on", "mnuFileSave on", "mnuFileSaveReplay off",

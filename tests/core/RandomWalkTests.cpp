@@ -122,7 +122,7 @@ std::string RandomWalk::Fault() const {
   if (game.CheckIfGameOver(state.KnightX, state.KnightY) && window.IsClockEnabled()) {
     return "the clock runs after the end";
   }
-  if (state.ApplyingMoves || window.WorksGoingOn() != 0) return "work has not ended";
+  if (state.ApplyingMoves || window.IsWorking()) return "work has not ended";
   return "";
 }
 

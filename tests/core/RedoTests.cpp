@@ -20,10 +20,10 @@ TEST_F(Redo, TakesItsStepsInOrder) {
                            "mnuFileSave on",
                            "mnuFileAutoplay on",
                            "mnuFileSolve on",
-                           "RestoreColors -1 -1",
+                           "RestoreColors",
                            "clock on",
                            "mnuEditRedo off",
-                           "RestoreColors -1 -1",
+                           "RestoreColors",
                        }));
 }
 

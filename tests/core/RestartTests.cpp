@@ -35,7 +35,7 @@ TEST_F(Restart, TakesItsStepsInOrder) {
                            "mnuFileSolve on",
                            "mnuFileSaveReplay off",
                            "mnuEditRedo on",
-                           "RestoreColors -1 -1",
+                           "RestoreColors",
                            "clock on",
                            "DoEvents",
                            "mnuFileSave on",
@@ -43,7 +43,7 @@ TEST_F(Restart, TakesItsStepsInOrder) {
                            "mnuFileSolve on",
                            "mnuFileSaveReplay off",
                            "mnuEditRedo on",
-                           "RestoreColors -1 -1",
+                           "RestoreColors",
                            "clock on",
                            "mnuEditUndo off",
                            "mnuViewHistory off",
@@ -98,15 +98,15 @@ TEST_F(Restart, ShowsEveryMoveItTakesBack) {
 TEST_F(Restart, IsNotToBeDisturbedWhileItRewinds) {
   Begin();
   PlayTour(game, 10);
-  window.onDoEvents = [this] { EXPECT_EQ(window.WorksGoingOn(), 1); };
+  window.onDoEvents = [this] { EXPECT_TRUE(window.IsWorking()); };
   ChooseRestart(PlayerSays::Yes);
-  EXPECT_EQ(window.WorksGoingOn(), 0);
+  EXPECT_FALSE(window.IsWorking());
 }
 
 TEST_F(Restart, FinishesWithoutWaitingWhenTheWindowShallClose) {
   Begin();
   PlayTour(game, 10);
-  window.onDoEvents = [this] { window.closeRequested = state.MoveCount == 7; };
+  window.onDoEvents = [this] { window.Guard().SetCloseRequested(state.MoveCount == 7); };
   window.log.clear();
   ChooseRestart(PlayerSays::Yes);
   EXPECT_EQ(std::count(window.log.begin(), window.log.end(), "DoEvents"), 3);
@@ -114,7 +114,7 @@ TEST_F(Restart, FinishesWithoutWaitingWhenTheWindowShallClose) {
   EXPECT_TRUE(MovesToRedo(state).empty());
   EXPECT_EQ(state.ElapsedHalfSeconds, 0);
   EXPECT_FALSE(IsOn(MenuEntry::mnuEditUndo));
-  EXPECT_EQ(window.WorksGoingOn(), 0);
+  EXPECT_FALSE(window.IsWorking());
 }
 
 TEST_F(Restart, DiscardsWhatCouldBeRedone) {

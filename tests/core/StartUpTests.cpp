@@ -3,44 +3,27 @@
 using StartUp = GameTest;
 
 TEST_F(StartUp, TakesItsStepsInOrder) {
-  game.Form_Load("");
-  EXPECT_EQ(TakeLog(), (Steps{
-                           "OpenSettingsAndPlaceWindow",
-                           "CreateBoard",
-                           "LoadGameSetup",
-                           "mnuEditUndo on",
-                           "mnuViewHistory on",
-                           "mnuEditHistory on",
-                           "mnuFileSave on",
-                           "mnuFileAutoplay on",
-                           "mnuFileSolve on",
-                           "RestoreColors -1 -1",
-                           "caption Gallopade Nova: 1 - 0:00:00.0",
-                           "RestoreColors -1 -1",
-                           "clock off",
-                           "mnuEditRedo off",
-                           "mnuEditUndo off",
-                           "mnuViewHistory off",
-                           "mnuEditHistory off",
-                           "mnuFileRestart off",
-                           "mnuViewReplay off",
-                           "mnuFileSave off",
-                           "mnuFileSaveReplay off",
-                           "mnuFileAutoplay on",
-                           "mnuFileSolve on",
-                           "HighlightSquare 0",
-                           "RestoreColors -1 -1",
-                       }));
+  game.Form_Load([this] { window.log.push_back("the settings"); });
+  EXPECT_EQ(
+      TakeLog(),
+      (Steps{
+          "the settings",          "mnuEditUndo on",     "mnuViewHistory on",
+          "mnuEditHistory on",     "mnuFileSave on",     "mnuFileAutoplay on",
+          "mnuFileSolve on",       "RestoreColors",      "caption Gallopade Nova: 1 - 0:00:00.0",
+          "RestoreColors",         "clock off",          "mnuEditRedo off",
+          "mnuEditUndo off",       "mnuViewHistory off", "mnuEditHistory off",
+          "mnuFileRestart off",    "mnuViewReplay off",  "mnuFileSave off",
+          "mnuFileSaveReplay off", "mnuFileAutoplay on", "mnuFileSolve on",
+          "HighlightSquare 0",     "RestoreColors",
+      }));
 }
 
 TEST_F(StartUp, TakesFewerStepsWhenThePlayerPicksTheFirstSquare) {
   options.StartingPosition = StartOnPlayersChoice;
-  game.Form_Load("");
+  game.Form_Load([this] { window.log.push_back("the settings"); });
   EXPECT_EQ(TakeLog(), (Steps{
-                           "OpenSettingsAndPlaceWindow",
-                           "CreateBoard",
-                           "LoadGameSetup",
-                           "RestoreColors -1 -1",
+                           "the settings",
+                           "RestoreColors",
                            "caption Gallopade Nova: 0 - 0:00:00.0",
                            "clock off",
                            "mnuEditRedo off",
@@ -53,18 +36,17 @@ TEST_F(StartUp, TakesFewerStepsWhenThePlayerPicksTheFirstSquare) {
                            "mnuFileSaveReplay off",
                            "mnuFileAutoplay on",
                            "mnuFileSolve on",
-                           "RestoreColors -1 -1",
+                           "RestoreColors",
                        }));
 }
 
 TEST_F(StartUp, ReadsTheSettingsBeforeItTakesTheFirstSquare) {
-  window.onLoadGameSetup = [this] {
+  game.Form_Load([this] {
     EXPECT_EQ(state.MoveCount, 0);
     EXPECT_TRUE(state.ApplyingMoves);
     options.StartingX = 7;
     options.StartingY = 7;
-  };
-  game.Form_Load("");
+  });
   EXPECT_EQ(Knight(), "H1");
 }
 
@@ -102,7 +84,7 @@ TEST_F(StartUp, BeginsFromNothingWhateverWasThere) {
   state.SolverRunning = true;
   state.NoScoreGame = true;
   state.MoveCount = 5;
-  game.Form_Load("");
+  game.Form_Load([] {});
   EXPECT_FALSE(state.SolverRunning);
   EXPECT_FALSE(state.NoScoreGame);
   EXPECT_EQ(MovesMade(state), SquaresNamed("A8"));
@@ -116,6 +98,6 @@ TEST_F(StartUp, WritesTheCaptionBeforeAnyMoveWithoutTheTime) {
 
 TEST_F(StartUp, WritesAPlainCaptionWhenNothingShallBeShown) {
   options.ShowScore = options.ShowTime = false;
-  game.Form_Load("");
+  game.Form_Load([] {});
   EXPECT_EQ(window.Caption(), "Gallopade Nova");
 }

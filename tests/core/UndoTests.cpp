@@ -13,7 +13,7 @@ TEST_F(Undo, TakesItsStepsInOrder) {
                            "mnuFileSolve on",
                            "mnuFileSaveReplay off",
                            "mnuEditRedo on",
-                           "RestoreColors -1 -1",
+                           "RestoreColors",
                            "clock on",
                        }));
 }
@@ -29,7 +29,7 @@ TEST_F(Undo, BackToTheAutomaticSquareTakesItsStepsInOrder) {
                            "mnuFileSolve on",
                            "mnuFileSaveReplay off",
                            "mnuEditRedo on",
-                           "RestoreColors -1 -1",
+                           "RestoreColors",
                            "clock on",
                            "mnuEditUndo off",
                            "mnuViewHistory off",
@@ -53,7 +53,7 @@ TEST_F(Undo, BackToThePlayersSquareTakesItsStepsInOrder) {
                            "mnuFileRestart off",
                            "mnuViewReplay off",
                            "mnuEditRedo on",
-                           "RestoreColors -1 -1",
+                           "RestoreColors",
                            "clock on",
                        }));
 }
@@ -72,7 +72,7 @@ TEST_F(Undo, OfThePlayersSquareTakesItsStepsInOrder) {
                            "mnuFileSolve on",
                            "mnuFileSaveReplay off",
                            "mnuEditRedo on",
-                           "RestoreColors -1 -1",
+                           "RestoreColors",
                            "clock on",
                        }));
 }

@@ -14,7 +14,7 @@ TEST_F(ValidMove, TakesItsStepsInOrder) {
                            "mnuFileSave on",
                            "mnuFileAutoplay on",
                            "mnuFileSolve on",
-                           "RestoreColors -1 -1",
+                           "RestoreColors",
                            "caption Gallopade Nova: 2 - 0:00:00.0",
                            "clock on",
                        }));
@@ -30,7 +30,7 @@ TEST_F(ValidMove, LeavesRestartAndReplayAloneOnTheFirstSquare) {
                            "mnuFileSave on",
                            "mnuFileAutoplay on",
                            "mnuFileSolve on",
-                           "RestoreColors -1 -1",
+                           "RestoreColors",
                            "caption Gallopade Nova: 1 - 0:00:00.0",
                            "clock on",
                        }));
@@ -58,7 +58,7 @@ TEST_F(ValidMove, EndsTheGameInOrder) {
                            "mnuFileSave on",
                            "mnuFileAutoplay on",
                            "mnuFileSolve on",
-                           "RestoreColors -1 -1",
+                           "RestoreColors",
                            "caption Gallopade Nova: 64 - 0:00:00.0",
                            "clock on",
                            "mnuFileSave off",

@@ -25,9 +25,8 @@ class QuietWindow : public GameWindow {
   void SetMenuEnabled(MenuEntry, bool) override {}
   bool IsMenuEnabled(MenuEntry) const override { return true; }
   void SetMenuChecked(MenuEntry, bool) override {}
-  void RestoreColors(int, int) override {}
+  void RestoreColors() override {}
   void HighlightSquare(int, bool) override {}
-  std::string Caption() const override { return {}; }
   void SetCaption(const std::string&) override {}
   void EnableClock(bool) override {}
   bool IsClockEnabled() const override { return false; }
@@ -35,15 +34,10 @@ class QuietWindow : public GameWindow {
   void Tell(const std::string&, const std::string&, MessageIcon) override {}
   void EndGame(const GameOverReport&) override {}
   void DoEvents() override {}
-  void BeginWork() override {}
-  void EndWork() override {}
-  bool IsCloseRequested() const override { return false; }
-  void OpenSettingsAndPlaceWindow() override {}
-  void CreateBoard() override {}
-  void LoadGameSetup() override {}
-  void ShowWindow() override {}
-  void OpenGameFile(const std::string&) override {}
-  void SaveSettings() override {}
+  WorkGuard& Guard() override { return guard_; }
+
+ private:
+  WorkGuard guard_{[](WorkGuard::Change) {}};
 };
 
 // Stops the search after many redraws; what was allocated between the first and the last.

@@ -56,7 +56,7 @@ TEST_F(AutoplayTest, DrawsTheFirstSquareBeforeItWalksOn) {
   const std::string aMoveBegins = "mnuEditUndo on";
   const auto first = std::find(log.begin(), log.end(), aMoveBegins);
   const auto second = std::find(first + 1, log.end(), aMoveBegins);
-  EXPECT_EQ(*(second - 1), "RestoreColors -1 -1");
+  EXPECT_EQ(*(second - 1), "RestoreColors");
 }
 
 TEST_F(AutoplayTest, OnADeadEndMakesNoMoveButTheGameIsOutOfTheScores) {
@@ -68,8 +68,8 @@ TEST_F(AutoplayTest, OnADeadEndMakesNoMoveButTheGameIsOutOfTheScores) {
   EXPECT_EQ(state.MoveCount, 20);
   EXPECT_TRUE(state.NoScoreGame);
   EXPECT_EQ(TakeLog(),
-            (Steps{"BeginWork", "mnuEditRedo off", "clock off", "mnuFileSave off",
-                   "mnuFileSaveReplay on", "mnuFileAutoplay off", "mnuFileSolve off", "EndWork"}));
+            (Steps{"BeginWork", "mnuEditRedo off", "clock off", "mnuFileAutoplay off",
+                   "mnuFileSolve off", "mnuFileSave off", "mnuFileSaveReplay on", "EndWork"}));
 }
 
 TEST_F(AutoplayTest, LeavesAGameThatCanOnlyBeReplayed) {
@@ -109,7 +109,7 @@ TEST_F(AutoplayTest, DrawsTheBoardAndYieldsOnceAfterEveryMove) {
   const Steps log = TakeLog();
   EXPECT_EQ(std::count(log.begin(), log.end(), "DoEvents"), state.MoveCount - 1);
   const auto firstYield = std::find(log.begin(), log.end(), "DoEvents");
-  EXPECT_EQ(*(firstYield - 1), "RestoreColors -1 -1");
+  EXPECT_EQ(*(firstYield - 1), "RestoreColors");
 }
 
 TEST_F(AutoplayTest, DropsTheMovesThatCouldBeRedone) {
@@ -155,14 +155,14 @@ TEST_F(AutoplayTest, IsNotDisturbedByClicks) {
 
 TEST_F(AutoplayTest, IsAtWorkAsLongAsItWalks) {
   Begin();
-  window.onDoEvents = [this] { EXPECT_EQ(window.WorksGoingOn(), 1); };
+  window.onDoEvents = [this] { EXPECT_TRUE(window.IsWorking()); };
   Autoplay();
-  EXPECT_EQ(window.WorksGoingOn(), 0);
+  EXPECT_FALSE(window.IsWorking());
 }
 
 TEST_F(AutoplayTest, EndsEarlyWhenTheWindowIsToClose) {
   Begin();
-  window.onDoEvents = [this] { window.closeRequested = state.MoveCount >= 5; };
+  window.onDoEvents = [this] { window.Guard().SetCloseRequested(state.MoveCount >= 5); };
   Autoplay();
   EXPECT_EQ(state.MoveCount, 5);
   EXPECT_FALSE(state.ApplyingMoves);
@@ -171,7 +171,7 @@ TEST_F(AutoplayTest, EndsEarlyWhenTheWindowIsToClose) {
 
 TEST_F(AutoplayTest, AWalkThatWasBrokenOffCanBePlayedOn) {
   Begin();
-  window.onDoEvents = [this] { window.closeRequested = state.MoveCount >= 5; };
+  window.onDoEvents = [this] { window.Guard().SetCloseRequested(state.MoveCount >= 5); };
   Autoplay();
   EXPECT_TRUE(IsOn(MenuEntry::mnuFileSave));
   EXPECT_TRUE(IsOn(MenuEntry::mnuFileAutoplay));

@@ -11,7 +11,7 @@ constexpr std::array<Offset, 8> OrderOfTries{
 
 void ShowAndYield(const SolveTask& task) {
   task.state.SolverRunning = false;
-  task.window.RestoreColors(-1, -1);
+  task.window.RestoreColors();
   task.progress.ShowProgress();
   task.window.DoEvents();
   task.state.SolverRunning = true;

@@ -6,7 +6,7 @@ void SolverDesk::BeginWith(const SolverPosition& position) {
   options.StartingPosition = position.startingPosition;
   options.StartingX = moves.front().x;
   options.StartingY = moves.front().y;
-  game.Form_Load("");
+  game.Form_Load([] {});
   state.ApplyingMoves = true;
   for (const MoveRow& move : moves) {
     const bool made = state.MoveCount == 1 && &move == &moves.front();

@@ -95,7 +95,7 @@ TEST_F(SolverTest, ARedrawDrawsTheBoardThenTheLabelsAndThenLetsEventsRun) {
     desk.solver.StopSolving = true;
   };
   desk.Solve();
-  EXPECT_EQ(lastSteps, (Steps{"RestoreColors -1 -1", "ShowProgress", "DoEvents"}));
+  EXPECT_EQ(lastSteps, (Steps{"RestoreColors", "ShowProgress", "DoEvents"}));
   EXPECT_TRUE(shown);
 }
 

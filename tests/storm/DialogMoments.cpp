@@ -55,7 +55,7 @@ void SaveFileDialog(Stage& stage) {
 
 void CouldNotOpen(Stage& stage) {
   Here(stage);
-  stage.Window().OpenGameFile(stage.Path("missing.knight").toStdString());
+  stage.Window().OpenGameFile(stage.Path("missing.knight"));
 }
 
 void CommandHistory(Stage& stage) {

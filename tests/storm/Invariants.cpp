@@ -205,6 +205,6 @@ Complaint Inspector::ComplaintAbout(frmGame& window, bool idle) {
 
 Complaint ComplaintAboutCaption(frmGame& window) {
   const std::string wanted = CaptionOf(window.State(), window.Context().globals.settings);
-  if (window.Caption() == wanted) return {};
-  return "the caption reads " + window.Caption() + " instead of " + wanted;
+  const std::string shown = window.windowTitle().toStdString();
+  return shown == wanted ? "" : "the caption reads " + shown + " instead of " + wanted;
 }

@@ -144,7 +144,7 @@ void Stage::Play(int moves) {
 
 void Stage::OpenGame(const std::vector<MoveRow>& squares) {
   Plant("game.knight", GameText(squares));
-  window_->OpenGameFile(Path("game.knight").toStdString());
+  window_->OpenGameFile(Path("game.knight"));
 }
 
 void Stage::Plant(const QString& name, const QByteArray& content) const {

@@ -6,7 +6,7 @@
 void GameTest::Begin(std::int16_t startingPosition) {
   state = GameState{};
   options.StartingPosition = startingPosition;
-  game.Form_Load("");
+  game.Form_Load([] {});
   window.log.clear();
 }
 

@@ -32,17 +32,14 @@ class Recording : public Seam {
   Steps log;
   // One for each question, in order. A question without an answer fails the test.
   std::deque<PlayerSays> answers;
-  bool closeRequested = false;
-  // What happens while the window draws, lets events run, shows the end of a game or reads its
-  // settings.
+  // What happens while the window draws, lets events run or shows the end of a game.
   std::function<void()> onRestoreColors;
   std::function<void()> onDoEvents;
   std::function<void(const GameOverReport&)> onEndGame;
-  std::function<void()> onLoadGameSetup;
 
+  const std::string& Caption() const { return caption_; }
+  bool IsWorking() const { return guard_.IsWorking(); }
   bool IsMenuChecked(MenuEntry entry) const { return menuChecked_[At(entry)]; }
-  // Works that began and have not ended.
-  int WorksGoingOn() const { return works_; }
 
   void SetMenuEnabled(MenuEntry entry, bool enabled) override {
     log.push_back(Line(entry, enabled ? "on" : "off"));
@@ -54,15 +51,14 @@ class Recording : public Seam {
     menuChecked_[At(entry)] = checked;
   }
 
-  void RestoreColors(int x, int y) override {
-    log.push_back("RestoreColors " + std::to_string(x) + " " + std::to_string(y));
+  void RestoreColors() override {
+    log.push_back("RestoreColors");
     if (onRestoreColors) onRestoreColors();
   }
   void HighlightSquare(int index, bool forced) override {
     log.push_back("HighlightSquare " + std::to_string(index) + (forced ? " forced" : ""));
   }
 
-  std::string Caption() const override { return caption_; }
   void SetCaption(const std::string& caption) override {
     log.push_back("caption " + caption);
     caption_ = caption;
@@ -98,27 +94,7 @@ class Recording : public Seam {
     if (onDoEvents) onDoEvents();
   }
 
-  void BeginWork() override {
-    log.push_back("BeginWork");
-    ++works_;
-  }
-  void EndWork() override {
-    log.push_back("EndWork");
-    --works_;
-  }
-  bool IsCloseRequested() const override { return closeRequested; }
-
-  void OpenSettingsAndPlaceWindow() override { log.push_back("OpenSettingsAndPlaceWindow"); }
-  void CreateBoard() override { log.push_back("CreateBoard"); }
-  void LoadGameSetup() override {
-    log.push_back("LoadGameSetup");
-    if (onLoadGameSetup) onLoadGameSetup();
-  }
-  void ShowWindow() override { log.push_back("ShowWindow"); }
-  void OpenGameFile(const std::string& fileName) override {
-    log.push_back("OpenGameFile " + fileName);
-  }
-  void SaveSettings() override { log.push_back("SaveSettings"); }
+  WorkGuard& Guard() override { return guard_; }
 
  private:
   static std::size_t At(MenuEntry entry) { return static_cast<std::size_t>(entry); }
@@ -127,7 +103,9 @@ class Recording : public Seam {
   std::array<bool, MenuEntryCount> menuChecked_{};
   std::string caption_;
   bool clockEnabled_ = false;
-  int works_ = 0;
+  WorkGuard guard_{[this](WorkGuard::Change change) {
+    log.push_back(change == WorkGuard::Change::Began ? "BeginWork" : "EndWork");
+  }};
 };
 
 using RecordingWindow = Recording<GameWindow>;

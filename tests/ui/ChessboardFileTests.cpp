@@ -89,7 +89,7 @@ TEST_F(ChessboardFiles, ReloadAndRepaintWhenTheyAreOpened) {
   Begin();
   Open(FileWith("a.chessboard", CompleteLook));
   EXPECT_EQ(TakeLog(),
-            (Steps{"clock off", "open /looks/" + Filter, "LoadGameSetup", "RefreshHighlight",
+            (Steps{"clock off", "open /looks/" + Filter, "LoadGameSetup", "HighlightSquare 0",
                    "RepaintWholeBoard", "Form_Resize", "clock off"}));
 }
 

@@ -161,16 +161,16 @@ TEST_F(CommandHistory, LetsNothingElseHappenWhileItSteps) {
   Begin();
   PlayTheTour(10);
   int works = 0;
-  window.onDoEvents = [&] { works += window.WorksGoingOn(); };
+  window.onDoEvents = [&] { works += window.IsWorking() ? 1 : 0; };
   StepThroughCommands(context, -3);
   EXPECT_EQ(works, 3);
-  EXPECT_EQ(window.WorksGoingOn(), 0);
+  EXPECT_FALSE(window.IsWorking());
 }
 
 TEST_F(CommandHistory, StopsWhenTheMainWindowIsToBeClosed) {
   Begin();
   PlayTheTour(10);
-  window.onDoEvents = [&] { window.closeRequested = true; };
+  window.onDoEvents = [&] { window.Guard().SetCloseRequested(true); };
   StepThroughCommands(context, -5);
   EXPECT_EQ(state.MoveCount, 9);
 }

@@ -16,7 +16,8 @@ class CommandTest : public testing::Test {
 
   // Starts the program and forgets the steps that it took.
   void Begin(std::int16_t startingPosition = 0);
-  // The steps written down since the last call; those of them that show another window.
+  // The steps written down since the last call, a repaint of all squares as one of them; those that
+  // show another window.
   Steps TakeLog();
   Steps TakeWindows();
 

@@ -147,7 +147,7 @@ TEST_F(GameFiles, ShowTheBoardFilling) {
   window.onDoEvents = [&] {
     EXPECT_EQ(state.MoveCount, ++yields);
     EXPECT_TRUE(state.ApplyingMoves);
-    EXPECT_EQ(window.WorksGoingOn(), 1);
+    EXPECT_TRUE(window.IsWorking());
   };
   Open(DataFile("beverley-first-40.knight"));
   EXPECT_EQ(yields, 40);
@@ -155,7 +155,7 @@ TEST_F(GameFiles, ShowTheBoardFilling) {
 
 TEST_F(GameFiles, AreOpenedToTheEndWhenTheWindowIsAboutToClose) {
   Begin();
-  window.onDoEvents = [&] { window.closeRequested = true; };
+  window.onDoEvents = [&] { window.Guard().SetCloseRequested(true); };
   Open(DataFile("beverley-1848.knight"));
   EXPECT_EQ(state.MoveCount, 64);
   EXPECT_EQ(std::count(window.log.begin(), window.log.end(), "DoEvents"), 1);
@@ -164,7 +164,7 @@ TEST_F(GameFiles, AreOpenedToTheEndWhenTheWindowIsAboutToClose) {
 TEST_F(GameFiles, AreNoReplayWhenTheWindowIsAboutToClose) {
   Begin();
   window.SetMenuEnabled(MenuEntry::mnuFileSaveReplay, true);
-  window.onDoEvents = [&] { window.closeRequested = true; };
+  window.onDoEvents = [&] { window.Guard().SetCloseRequested(true); };
   Open(DataFile("beverley-first-40.knight"), true);
   EXPECT_FALSE(window.IsMenuEnabled(MenuEntry::mnuFileSaveReplay));
   EXPECT_TRUE(window.IsClockEnabled());
@@ -245,7 +245,7 @@ TEST_F(GameFiles, SaveTheMovesMadeAndNotThoseToRedo) {
   for (const char* square : {"B6", "C8", "D6"}) Click(square);
   game.mnuEditUndo_Click();
   dialogs.paths = {FilePath("saved.knight")};
-  SaveGame(context);
+  mnuFileSave_Click(context);
   const QList<QByteArray> lines = BytesOf(FilePath("saved.knight")).split('\n');
   EXPECT_EQ(lines.size(), 66);
   EXPECT_EQ(lines[3], "2 0\r");
@@ -256,7 +256,7 @@ TEST_F(GameFiles, PauseTheClockWhileAFileIsChosen) {
   Begin();
   Click("B6");
   TakeLog();
-  SaveGame(context);
+  mnuFileSave_Click(context);
   const Steps steps = TakeLog();
   EXPECT_EQ(steps.front(), "clock off");
   EXPECT_EQ(steps.back(), "clock on");
@@ -266,7 +266,7 @@ TEST_F(GameFiles, ReportAGameThatCannotBeSaved) {
   Begin();
   Click("B6");
   dialogs.paths = {FilePath("nowhere/saved.knight")};
-  SaveGame(context);
+  mnuFileSave_Click(context);
   EXPECT_TRUE(Told(std::string(NotSaved) + "Path not found (76)."));
   EXPECT_EQ(state.MoveCount, 2);
 }
@@ -275,7 +275,7 @@ TEST_F(GameFiles, NeverGetAnExtensionOfTheProgramsOwn) {
   Begin();
   Click("B6");
   dialogs.paths = {FilePath("plain")};
-  SaveGame(context);
+  mnuFileSave_Click(context);
   EXPECT_FALSE(BytesOf(FilePath("plain")).isEmpty());
 }
 
@@ -284,9 +284,9 @@ TEST_F(GameFiles, ComeBackByteForByte) {
   PlayTour(game, 30);
   state.ElapsedHalfSeconds = 1234;
   dialogs.paths = {FilePath("first"), FilePath("second")};
-  SaveGame(context);
+  mnuFileSave_Click(context);
   window.answers = {PlayerSays::Yes};
   Open(FilePath("first"));
-  SaveGame(context);
+  mnuFileSave_Click(context);
   EXPECT_EQ(BytesOf(FilePath("first")), BytesOf(FilePath("second")));
 }

@@ -13,13 +13,18 @@
 // A main window without a window, which writes down what commands ask of it.
 class RecordingMainWindow : public Recording<MainWindow> {
  public:
+  // What happens while the settings are read.
+  std::function<void()> onLoadGameSetup;
   bool minimised = false;
   WindowPlacement placement;
 
   void Form_Resize() override { log.push_back("Form_Resize"); }
   void CatchUpOnResize() override { log.push_back("CatchUpOnResize"); }
-  void RepaintWholeBoard() override { log.push_back("RepaintWholeBoard"); }
-  void RefreshHighlight() override { log.push_back("RefreshHighlight"); }
+  void LoadGameSetup() override {
+    log.push_back("LoadGameSetup");
+    if (onLoadGameSetup) onLoadGameSetup();
+  }
+  void Exit() override { log.push_back("Exit"); }
   bool IsMinimised() const override { return minimised; }
   WindowPlacement Placement() const override { return placement; }
 };
@@ -44,6 +49,7 @@ class RecordingWindows : public SecondaryWindows {
   ScoresAnswer ShowScores(ScoreList list, std::optional<FinishedGame> finished) override;
   void ShowPreferences() override { Show("frmPreferences"); }
   void ShowAbout() override { Show("frmAbout"); }
+  void ShowHelp(const QString& topic) override { Show("frmHelp", topic.toStdString()); }
 
  private:
   void Show(const std::string& window, const std::string& details = std::string());

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
+#include "ui/commands/Solve.h"
 #include "ui/windows/frmSolve.h"
 #include "ui/windows/game/frmGame.h"
 
@@ -33,7 +34,7 @@ constexpr int Redraws = 100;
 int AllocatedAtRedraws(frmGame& window, frmSolve& solve) {
   const int before = allocations;
   for (int redraw = 0; redraw < Redraws; ++redraw) {
-    window.RestoreColors(-1, -1);
+    window.RestoreColors();
     solve.ShowProgress();
     window.DoEvents();
   }
@@ -78,7 +79,7 @@ TEST(RedrawAllocation, NothingIsAllocatedWhenNothingHasChanged) {
     allocated = AllocatedAtRedraws(window, solve);
     solve.close();
   });
-  window.mnuFileSolve_Click();
+  mnuFileSolve_Click(window.Context());
   EXPECT_EQ(allocated, 0);
   EXPECT_GT(allocations, 0);
 }

@@ -121,7 +121,7 @@ TEST_F(ReplayClosing, ShowsNoEndOfTheGameWhileItPlays) {
 TEST_F(ReplayClosing, NeedsNoReplayWhenTheMainWindowIsToBeClosed) {
   Begin();
   PlayTour(game, 10);
-  window.closeRequested = true;
+  window.Guard().SetCloseRequested(true);
   TakeLog();
   mnuViewReplay_Click(context);
   for (const std::string& line : TakeLog()) EXPECT_FALSE(line.starts_with("show")) << line;

@@ -71,7 +71,7 @@ TEST_F(SolveCommand, TakesARandomFirstSquareOnAnEmptyBoard) {
   Begin(1);
   window.answers = {PlayerSays::Yes};
   windows.onShow = [this](const std::string&) {
-    EXPECT_EQ(window.log[window.log.size() - 3], "RestoreColors -1 -1");
+    EXPECT_EQ(window.log[window.log.size() - 3], "RestoreColors");
     EXPECT_TRUE(state.FirstMoveMade);
     EXPECT_EQ(state.Cell(state.KnightX, state.KnightY), GameState::Visited);
   };

@@ -19,7 +19,7 @@ class SolveWindow : public SolveTest {
     const auto lastOf = [&](const std::string& step) {
       return std::find(log.rbegin(), log.rend(), step).base();
     };
-    log.erase(log.begin(), lastOf("RestoreColors -1 -1") - 1);
+    log.erase(log.begin(), lastOf("RestoreColors") - 1);
     return log;
   }
 };
@@ -118,7 +118,7 @@ TEST_F(SolveWindow, SaysThatThereIsNoSolution) {
   Open(Positions::Unsolvable);
   Press("cmdStartStop");
   EXPECT_EQ(StepsAfterTheSearch(),
-            (Steps{"RestoreColors -1 -1", "DoEvents",
+            (Steps{"RestoreColors", "DoEvents",
                    "tell No Solution|At the current position, there is no solution to this game.\n"
                    "Undo a few moves and try solving again.|information"}));
   EXPECT_EQ(Buttons(), "&Start (&Backtrack)");
@@ -134,7 +134,7 @@ TEST_F(SolveWindow, SaysThatTheGameHasBeenSolved) {
   Open(Positions::Solvable);
   Press("cmdStartStop");
   EXPECT_EQ(StepsAfterTheSearch(),
-            (Steps{"RestoreColors -1 -1", "caption Gallopade Nova: 64 - 0:00:00.0", "DoEvents",
+            (Steps{"RestoreColors", "caption Gallopade Nova: 64 - 0:00:00.0", "DoEvents",
                    "clock off", "tell Solved Successfully|The game has been solved!|information"}));
   EXPECT_EQ(Buttons(), "(&Start) &Backtrack");
   EXPECT_EQ(Values(), "64/486/B7");
@@ -187,7 +187,7 @@ TEST_F(SolveWindow, SaysNothingAfterAStop) {
   Open(Positions::Unsolvable, 7);
   InYield(3, [this] { Press("cmdStartStop"); });
   Press("cmdStartStop");
-  EXPECT_EQ(StepsAfterTheSearch(), (Steps{"RestoreColors -1 -1", "DoEvents"}));
+  EXPECT_EQ(StepsAfterTheSearch(), (Steps{"RestoreColors", "DoEvents"}));
   EXPECT_EQ(Buttons(), "&Start (&Backtrack)");
 }
 

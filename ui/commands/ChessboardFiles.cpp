@@ -30,8 +30,8 @@ void mnuEditChessboardOpen_Click(const CommandContext& context) {
   LoadChessboard(context.globals.IniFile.ReadIniFileValues(fileName), settings);
   StoreEverything(context);
   context.window.LoadGameSetup();
-  context.window.RefreshHighlight();
-  context.window.RepaintWholeBoard();
+  context.game.RefreshHighlight();
+  context.game.RepaintWholeBoard();
   context.window.Form_Resize();
 }
 

@@ -12,7 +12,7 @@ void SendScores(const CommandContext& context, const GameOverReport& report) {
 
 ScoresAnswer SubmitToScores(const CommandContext& context, const GameOverReport& report) {
   const ScoreList list = report.moveCount > MostLowMoves ? ScoreList::High : ScoreList::Low;
-  context.state.NoScoreGame = true;  // a game is submitted once only
+  context.game.ExcludeFromScores();  // a game is submitted once only
   const FinishedGame finished{report.moveCount, report.elapsedHalfSeconds};
   return context.windows.ShowScores(list, finished);
 }

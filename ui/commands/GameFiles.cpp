@@ -1,5 +1,6 @@
 #include "ui/commands/GameFiles.h"
 
+#include "core/Menus.h"
 #include "storage/FileWriter.h"
 #include "storage/GameFile.h"
 #include "storage/Settings.h"
@@ -18,37 +19,6 @@ QString ChooseGame(const CommandContext& context) {
   return fileName;
 }
 
-void ClearBoard(const CommandContext& context) {
-  GameState& state = context.state;
-  ++state.GameSerial;
-  context.game.ClearRedo();
-  state.MoveCount = 0;
-  state.Board.fill(GameState::Unvisited);
-  for (std::size_t row = 0; row < SquareCount; ++row) state.MoveList[row] = EmptyMove;
-  state.GameStartingPosition = 0;
-  state.FirstMoveMade = true;
-}
-
-void SetClock(const CommandContext& context, const GameFile& file) {
-  context.state.ElapsedHalfSeconds = file.elapsedHalfSeconds - 1;
-  context.game.tmrTime_Timer();
-  context.state.NoScoreGame = file.noScoreGame;
-}
-
-// The board is seen filling; whoever wants to close the window need not wait for it.
-void ApplyMoves(const CommandContext& context, const GameFile& file) {
-  const WorkScope work(context.window);
-  context.state.ApplyingMoves = true;
-  if (file.hasClock) SetClock(context, file);
-  for (const MoveRow& move : file.moves) {
-    context.game.ValidMove(move.x, move.y);
-    if (!context.window.IsCloseRequested()) context.window.DoEvents();
-  }
-  context.state.CursorX = context.state.KnightX;
-  context.state.CursorY = context.state.KnightY;
-  context.state.ApplyingMoves = false;
-}
-
 // The game that was to be opened is lost half-way, so a new one begins without a question.
 void ReportFailure(const CommandContext& context, const GameFileFailure& failure) {
   context.window.Tell("Sorry...", FailureText(failure).toStdString(), MessageIcon::Exclamation);
@@ -63,13 +33,13 @@ bool WantsReplay(const CommandContext& context, bool replaying, bool over) {
 
 // Who asked to close the window while the game was opened is shown no replay.
 void GoOnWithLoadedGame(const CommandContext& context, bool replaying) {
-  const bool isClosing = context.window.IsCloseRequested();
+  const bool isClosing = context.window.Guard().IsCloseRequested();
   const bool over = context.game.CheckIfGameOver(context.state.KnightX, context.state.KnightY);
   if (over) {
-    context.state.NoScoreGame = true;
-    context.game.DisablePlayOn();
+    context.game.ExcludeFromScores();
+    SwitchMenus(context.window, MenuChange::FinishedGame);
   } else if (!replaying || isClosing) {
-    context.window.SetMenuEnabled(MenuEntry::mnuFileSaveReplay, false);
+    SwitchMenus(context.window, MenuChange::UnfinishedGameOpened);
     context.window.EnableClock(true);
   }
   if (!isClosing && WantsReplay(context, replaying, over)) mnuViewReplay_Click(context);
@@ -91,8 +61,10 @@ void LoadGame(const CommandContext& context, const LoadRequest& request) {
     return;
   }
   const GameFile file = ReadGameFile(fileName);
-  ClearBoard(context);
-  ApplyMoves(context, file);
+  context.game.OpenSavedGame(
+      {.elapsedHalfSeconds = file.hasClock ? std::optional(file.elapsedHalfSeconds) : std::nullopt,
+       .noScoreGame = file.noScoreGame,
+       .moves = file.moves});
   if (file.failure) {
     ReportFailure(context, *file.failure);
   } else {
@@ -100,7 +72,15 @@ void LoadGame(const CommandContext& context, const LoadRequest& request) {
   }
 }
 
-void SaveGame(const CommandContext& context) {
+void mnuFileOpen_Click(const CommandContext& context) {
+  LoadGame(context, {.Replaying = false});
+}
+
+void mnuFileOpenReplay_Click(const CommandContext& context) {
+  LoadGame(context, {.Replaying = true});
+}
+
+void mnuFileSave_Click(const CommandContext& context) {
   const ClockPause pause(context);
   QString& directory = context.globals.settings.PreviousDirectory;
   const QString fileName = context.dialogs.SaveFile({directory, GameFilter});
@@ -111,4 +91,8 @@ void SaveGame(const CommandContext& context) {
         "Your file was not saved due to the following error:\n" + ErrorText(*error);
     context.window.Tell("Sorry...", text.toStdString(), MessageIcon::Exclamation);
   }
+}
+
+void mnuFileSaveReplay_Click(const CommandContext& context) {
+  mnuFileSave_Click(context);
 }

@@ -14,5 +14,9 @@ struct LoadRequest {
 // a new game begins.
 void LoadGame(const CommandContext& context, const LoadRequest& request);
 
+void mnuFileOpen_Click(const CommandContext& context);
+void mnuFileOpenReplay_Click(const CommandContext& context);
+
 // Saves the game under a name that the player chooses.
-void SaveGame(const CommandContext& context);
+void mnuFileSave_Click(const CommandContext& context);
+void mnuFileSaveReplay_Click(const CommandContext& context);

@@ -30,7 +30,7 @@ void ApplyPreferences(const CommandContext& context) {
   QString ignoredError;
   globals.IniFile.WriteIniFileValues(globals.IniFilePathName, entries, ignoredError);
   context.window.LoadGameSetup();
-  context.window.RepaintWholeBoard();
+  context.game.RepaintWholeBoard();
   context.window.Form_Resize();
 }
 
@@ -42,7 +42,7 @@ bool RestoreDefaultConfiguration(const CommandContext& context) {
   }
   QFile::remove(context.globals.IniFilePathName);
   context.window.LoadGameSetup();
-  context.window.RepaintWholeBoard();
+  context.game.RepaintWholeBoard();
   context.window.Form_Resize();
   context.game.DoCaption();
   return true;

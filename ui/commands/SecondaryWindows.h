@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <optional>
 
+#include <QString>
+
 #include "core/GameWindow.h"
 
 enum class GameOverAnswer { MainButton, Undo };
@@ -32,4 +34,7 @@ class SecondaryWindows {
   virtual ScoresAnswer ShowScores(ScoreList list, std::optional<FinishedGame> finished) = 0;
   virtual void ShowPreferences() = 0;
   virtual void ShowAbout() = 0;
+  // Opens the help at a keyword, or at its contents when the topic is empty; the only window here
+  // that stays open beside the others.
+  virtual void ShowHelp(const QString& topic) = 0;
 };

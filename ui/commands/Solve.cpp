@@ -25,13 +25,14 @@ void mnuFileSolve_Click(const CommandContext& context) {
   }
   if (context.state.MoveCount == 0) {
     context.game.MakeRandomStartingMove();
-    context.window.RestoreColors(-1, -1);
+    context.window.RestoreColors();
   }
   context.window.EnableClock(true);  // the time until a tour is found is time of the game
-  context.state.ApplyingMoves = true;
-  context.windows.ShowSolve(context.state.MoveCount);
-  context.game.ClearRedo();
-  context.state.ApplyingMoves = false;
+  {
+    const ApplyingMovesScope applying(context.state);
+    context.windows.ShowSolve(context.state.MoveCount);
+    context.game.ClearRedo();
+  }
   context.game.GoOnOrFinish();
   context.game.DoCaption();
   context.window.CatchUpOnResize();

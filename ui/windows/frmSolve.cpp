@@ -134,7 +134,7 @@ void frmSolve::cmdStartStop_Click() {
 void frmSolve::Search() {
   {
     const QScopedValueRollback working(working_, true);
-    context_.state.NoScoreGame = true;
+    context_.game.ExcludeFromScores();
     OfferStop(true);
     cmdBacktrack_->setEnabled(false);
     EndSearch(FindTour());
@@ -156,7 +156,7 @@ bool frmSolve::FindTour() {
 void frmSolve::EndSearch(bool solved) {
   // Asked before the events run: a Stop in these comes too late, the search has given its answer.
   const bool stopped = solver_.StopSolving;
-  context_.window.RestoreColors(-1, -1);
+  context_.window.RestoreColors();
   context_.game.DoCaption();
   context_.window.DoEvents();
   ShowProgress();

@@ -7,74 +7,78 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "ui/commands/ChessboardFiles.h"
+#include "ui/commands/CommandHistory.h"
+#include "ui/commands/GameFiles.h"
+#include "ui/commands/MenuCommands.h"
+#include "ui/commands/Replay.h"
+#include "ui/commands/Solve.h"
 #include "ui/windows/game/frmGame.h"
 
 namespace {
 
-using Handler = void (frmGame::*)();
+using Command = void (*)(const CommandContext&);
 
 struct MenuRow {
   const char* name = nullptr;  // none: a separator
   const char* caption = nullptr;
   const char* shortcut = nullptr;
-  Handler handler = nullptr;  // none: a submenu, filled from the rows that follow under its name
+  Command command = nullptr;  // none: the submenu of the chessboard commands
   std::optional<MenuEntry> entry = std::nullopt;
 };
 
 constexpr MenuRow Separator{};
 
 constexpr MenuRow FileRows[] = {
-    {"mnuFileNew", "&New", "F2", &frmGame::mnuFileNew_Click},
-    {"mnuFileOpen", "&Open...", "Ctrl+O", &frmGame::mnuFileOpen_Click},
-    {"mnuFileSave", "&Save...", "Ctrl+S", &frmGame::mnuFileSave_Click, MenuEntry::mnuFileSave},
-    {"mnuFileRestart", "&Restart", nullptr, &frmGame::mnuFileRestart_Click,
-     MenuEntry::mnuFileRestart},
+    {"mnuFileNew", "&New", "F2", mnuFileNew_Click},
+    {"mnuFileOpen", "&Open...", "Ctrl+O", mnuFileOpen_Click},
+    {"mnuFileSave", "&Save...", "Ctrl+S", mnuFileSave_Click, MenuEntry::mnuFileSave},
+    {"mnuFileRestart", "&Restart", nullptr, mnuFileRestart_Click, MenuEntry::mnuFileRestart},
     Separator,
-    {"mnuFileSolve", "So&lve...", nullptr, &frmGame::mnuFileSolve_Click, MenuEntry::mnuFileSolve},
-    {"mnuFileAutoplay", "&Autoplay", nullptr, &frmGame::mnuFileAutoplay_Click,
-     MenuEntry::mnuFileAutoplay},
+    {"mnuFileSolve", "So&lve...", nullptr, mnuFileSolve_Click, MenuEntry::mnuFileSolve},
+    {"mnuFileAutoplay", "&Autoplay", nullptr, mnuFileAutoplay_Click, MenuEntry::mnuFileAutoplay},
     Separator,
-    {"mnuFileOpenReplay", "O&pen Replay...", nullptr, &frmGame::mnuFileOpenReplay_Click},
-    {"mnuFileSaveReplay", "Sa&ve Replay...", nullptr, &frmGame::mnuFileSaveReplay_Click,
+    {"mnuFileOpenReplay", "O&pen Replay...", nullptr, mnuFileOpenReplay_Click},
+    {"mnuFileSaveReplay", "Sa&ve Replay...", nullptr, mnuFileSaveReplay_Click,
      MenuEntry::mnuFileSaveReplay},
     Separator,
-    {"mnuFileExit", "E&xit\tAlt+F4", "Alt+F4", &frmGame::mnuFileExit_Click},
+    {"mnuFileExit", "E&xit\tAlt+F4", "Alt+F4", mnuFileExit_Click},
 };
 
 constexpr MenuRow EditRows[] = {
-    {"mnuEditUndo", "&Undo", "Ctrl+Z", &frmGame::mnuEditUndo_Click, MenuEntry::mnuEditUndo},
-    {"mnuEditRedo", "&Redo", "Ctrl+Y", &frmGame::mnuEditRedo_Click, MenuEntry::mnuEditRedo},
-    {"mnuEditHistory", "&Command History...", nullptr, &frmGame::mnuEditHistory_Click,
+    {"mnuEditUndo", "&Undo", "Ctrl+Z", mnuEditUndo_Click, MenuEntry::mnuEditUndo},
+    {"mnuEditRedo", "&Redo", "Ctrl+Y", mnuEditRedo_Click, MenuEntry::mnuEditRedo},
+    {"mnuEditHistory", "&Command History...", nullptr, mnuEditHistory_Click,
      MenuEntry::mnuEditHistory},
     Separator,
     {"mnuEditChessboard", "Chess&board"},
     Separator,
-    {"mnuPrefs", "&Preferences...", nullptr, &frmGame::mnuPrefs_Click},
+    {"mnuPrefs", "&Preferences...", nullptr, mnuPrefs_Click},
 };
 
 constexpr MenuRow ChessboardRows[] = {
-    {"mnuEditChessboardOpen", "&Open...", nullptr, &frmGame::mnuEditChessboardOpen_Click},
-    {"mnuEditChessboardSave", "&Save...", nullptr, &frmGame::mnuEditChessboardSave_Click},
+    {"mnuEditChessboardOpen", "&Open...", nullptr, mnuEditChessboardOpen_Click},
+    {"mnuEditChessboardSave", "&Save...", nullptr, mnuEditChessboardSave_Click},
 };
 
 constexpr MenuRow ViewRows[] = {
-    {"mnuViewReplay", "&Instant Replay...", "Ctrl+R", &frmGame::mnuViewReplay_Click,
+    {"mnuViewReplay", "&Instant Replay...", "Ctrl+R", mnuViewReplay_Click,
      MenuEntry::mnuViewReplay},
-    {"mnuViewHistory", "&Move History...", nullptr, &frmGame::mnuViewHistory_Click,
+    {"mnuViewHistory", "&Move History...", nullptr, mnuViewHistory_Click,
      MenuEntry::mnuViewHistory},
     Separator,
-    {"mnuViewScore", "Show &Score", nullptr, &frmGame::mnuViewScore_Click, MenuEntry::mnuViewScore},
-    {"mnuViewTime", "Show &Time", nullptr, &frmGame::mnuViewTime_Click, MenuEntry::mnuViewTime},
+    {"mnuViewScore", "Show &Score", nullptr, mnuViewScore_Click, MenuEntry::mnuViewScore},
+    {"mnuViewTime", "Show &Time", nullptr, mnuViewTime_Click, MenuEntry::mnuViewTime},
     Separator,
-    {"mnuViewHighScores", "&High Scores...", nullptr, &frmGame::mnuViewHighScores_Click},
-    {"mnuViewLowScores", "&Low Scores...", nullptr, &frmGame::mnuViewLowScores_Click},
+    {"mnuViewHighScores", "&High Scores...", nullptr, mnuViewHighScores_Click},
+    {"mnuViewLowScores", "&Low Scores...", nullptr, mnuViewLowScores_Click},
 };
 
 constexpr MenuRow HelpRows[] = {
-    {"mnuHelpContents", "&Contents", "F1", &frmGame::mnuHelpContents_Click},
-    {"mnuHelpHowToPlay", "&How to Play", nullptr, &frmGame::mnuHelpHowToPlay_Click},
+    {"mnuHelpContents", "&Contents", "F1", mnuHelpContents_Click},
+    {"mnuHelpHowToPlay", "&How to Play", nullptr, mnuHelpHowToPlay_Click},
     Separator,
-    {"mnuHelpAbout", "&About Gallopade Nova...", nullptr, &frmGame::mnuHelpAbout_Click},
+    {"mnuHelpAbout", "&About Gallopade Nova...", nullptr, mnuHelpAbout_Click},
 };
 
 class MenuBuilder {
@@ -92,7 +96,7 @@ class MenuBuilder {
   void AddRow(QMenu* menu, const MenuRow& row) {
     if (row.name == nullptr) {
       menu->addSeparator()->setObjectName(QString("mnuSeparator%1").arg(separators_++));
-    } else if (row.handler == nullptr) {
+    } else if (row.command == nullptr) {
       Fill(menu->addMenu(row.caption), row.name, ChessboardRows);
     } else {
       AddEntry(menu, row);
@@ -107,7 +111,7 @@ class MenuBuilder {
     if (row.shortcut != nullptr) action->setShortcut(QKeySequence(row.shortcut));
     if (row.entry) entries_[static_cast<std::size_t>(*row.entry)] = action;
     QObject::connect(action, &QAction::triggered, &window_, [window = &window_, action, row] {
-      const auto choose = [window, action, row] { Choose(*window, *action, row.handler); };
+      const auto choose = [window, action, row] { Choose(*window, *action, row.command); };
       if (!QAccessible::isActive() || window->IsHandActing()) {
         choose();
       } else {
@@ -118,11 +122,11 @@ class MenuBuilder {
   }
 
   // Dialogs keep mouse and keys away, but not a screen reader.
-  static void Choose(frmGame& window, QAction& action, Handler handler) {
+  static void Choose(frmGame& window, QAction& action, Command command) {
     const bool reachable = QApplication::activeModalWidget() == nullptr;
     // As every close, it is remembered while work is going on.
-    if (reachable && handler == &frmGame::mnuFileExit_Click) return window.mnuFileExit_Click();
-    const bool done = reachable && window.Perform([&] { (window.*handler)(); });
+    if (reachable && command == mnuFileExit_Click) return command(window.Context());
+    const bool done = reachable && window.Perform([&] { command(window.Context()); });
     if (!done && action.isCheckable()) action.toggle();  // back: the toolkit has toggled it already
   }
 

@@ -9,10 +9,10 @@
 class frmGame;
 
 // The menu of the main window: built from one table, in which every entry has its name, caption,
-// shortcut and handler.
+// shortcut and command.
 class GameMenu {
  public:
-  // Fills the window's menu bar. An entry calls its handler only while the player may act.
+  // Fills the window's menu bar. An entry carries its command out only while the player may act.
   explicit GameMenu(frmGame& window);
 
   QAction& Entry(MenuEntry entry) const { return *entries_[static_cast<std::size_t>(entry)]; }

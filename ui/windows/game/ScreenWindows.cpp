@@ -75,3 +75,7 @@ void ScreenWindows::ShowAbout() {
                   &mainWindow_);
   window.exec();
 }
+
+void ScreenWindows::ShowHelp(const QString& topic) {
+  mainWindow_.GetHelp(topic);
+}

@@ -18,6 +18,7 @@ class ScreenWindows : public SecondaryWindows {
   ScoresAnswer ShowScores(ScoreList list, std::optional<FinishedGame> finished) override;
   void ShowPreferences() override;
   void ShowAbout() override;
+  void ShowHelp(const QString& topic) override;
 
  private:
   frmGame& mainWindow_;

@@ -8,7 +8,6 @@
 #include <QTimer>
 
 #include "ui/application/AccessibleDialog.h"
-#include "ui/application/DoEvents.h"
 #include "ui/board/BoardView.h"
 #include "ui/commands/EndOfGame.h"
 #include "ui/commands/GameFiles.h"
@@ -31,7 +30,8 @@ frmGame::frmGame(Globals& globals)
       dialogs_(*this),
       windows_(*this),
       context_{game_, state_, *this, dialogs_, windows_, globals},
-      helpKey_([this](const QString& topic) { GetHelp(topic); }) {
+      helpKey_([this](const QString& topic) { GetHelp(topic); }),
+      guard_([this](WorkGuard::Change change) { WorkChanged(change); }) {
   AccessibleDialog::Install();
   QPixmapCache::setCacheLimit(PixmapCacheKilobytes);
   setObjectName("frmGame");
@@ -42,8 +42,17 @@ frmGame::frmGame(Globals& globals)
 frmGame::~frmGame() = default;
 
 void frmGame::Form_Load(const QString& commandLine) {
-  game_.Form_Load(commandLine.toStdString());
+  game_.Form_Load([this] { SetUp(); });
   ShowWindow();
+  if (const auto fileName = GameFileOf(commandLine.toStdString())) {
+    OpenGameFile(QString::fromStdString(*fileName));
+  }
+}
+
+void frmGame::SetUp() {
+  OpenSettingsAndPlaceWindow();
+  CreateBoard();
+  LoadGameSetup();
 }
 
 bool frmGame::Perform(const std::function<void()>& deed) {
@@ -52,7 +61,7 @@ bool frmGame::Perform(const std::function<void()>& deed) {
     const QScopedValueRollback performing(performing_, true);
     deed();
   }
-  if (closeRequested_) CloseAsRequested();
+  if (guard_.IsCloseRequested()) CloseAsRequested();
   return true;
 }
 
@@ -73,18 +82,14 @@ void frmGame::SetMenuChecked(MenuEntry entry, bool checked) {
   menu_.Entry(entry).setChecked(checked);
 }
 
-void frmGame::RestoreColors(int x, int y) {
-  board_->Model().RestoreColors(state_, globals_.settings, x, y);
+void frmGame::RestoreColors() {
+  board_->Model().RestoreColors(state_, globals_.settings, -1, -1);
   board_->ShowChanges();
 }
 
 void frmGame::HighlightSquare(int index, bool forced) {
   board_->Model().HighlightSquare(state_, globals_.settings, index, forced);
   board_->ShowChanges();
-}
-
-std::string frmGame::Caption() const {
-  return windowTitle().toStdString();
 }
 
 void frmGame::SetCaption(const std::string& caption) {
@@ -113,23 +118,19 @@ void frmGame::EndGame(const GameOverReport& report) {
 }
 
 void frmGame::DoEvents() {
-  ::DoEvents();
+  QCoreApplication::processEvents();
 }
 
-void frmGame::BeginWork() {
-  ++works_;
-}
-
-void frmGame::EndWork() {
-  --works_;
+void frmGame::WorkChanged(WorkGuard::Change change) {
+  if (change == WorkGuard::Change::Began) return;
   CatchUpOnResize();
-  if (PlayerMayAct() && closeRequested_) CloseAsRequested();
+  if (PlayerMayAct() && guard_.IsCloseRequested()) CloseAsRequested();
 }
 
 // In the normal way, but only when nothing else is going on above the event loop.
 void frmGame::CloseAsRequested() {
   QTimer::singleShot(CloseRetryMilliseconds, this, [this] {
-    if (!closeRequested_) return;
+    if (!guard_.IsCloseRequested()) return;
     if (!PlayerMayAct() || QApplication::activeModalWidget() != nullptr) {
       CloseAsRequested();
     } else {
@@ -142,8 +143,13 @@ void frmGame::CloseAsRequested() {
 // goes on with the game. A dialog that has just closed may lead to the next.
 void frmGame::closeEvent(QCloseEvent* event) {
   if (QApplication::activeModalWidget() != nullptr) return event->ignore();
-  closeRequested_ = !PlayerMayAct();
-  event->setAccepted(!closeRequested_ && game_.Form_Unload());
+  guard_.SetCloseRequested(!PlayerMayAct());
+  event->setAccepted(PlayerMayAct() && game_.Form_Unload());
+  if (event->isAccepted()) SaveSettings();
+}
+
+void frmGame::Exit() {
+  close();
 }
 
 void frmGame::LoadGameSetup() {
@@ -163,11 +169,9 @@ void frmGame::LoadGameSetup() {
        load(settings.ChessboardBackgroundImage)});
 }
 
-void frmGame::OpenGameFile(const std::string& fileName) {
+void frmGame::OpenGameFile(const QString& fileName) {
   Perform([&] {
-    LoadGame(
-        context_,
-        {.Replaying = false, .NoCdlog = true, .NoCdlogFilename = QString::fromStdString(fileName)});
+    LoadGame(context_, {.Replaying = false, .NoCdlog = true, .NoCdlogFilename = fileName});
   });
 }
 
@@ -176,17 +180,4 @@ void frmGame::SaveSettings() {
   globals_.IniFile.WriteIniFileValues(globals_.IniFilePathName,
                                       ExitEntries(globals_.settings, Placement(), IsMinimised()),
                                       ignoredError);
-}
-
-void frmGame::RefreshHighlight() {
-  game_.pctGrid_MouseMove(SquareIndex(state_.CursorX, state_.CursorY), 0);
-}
-
-void frmGame::RepaintWholeBoard() {
-  const std::int16_t cursorX = state_.CursorX;
-  const std::int16_t cursorY = state_.CursorY;
-  for (int index = SquareCount - 1; index >= 0; --index) game_.pctGrid_MouseMove(index, -1);
-  state_.CursorX = cursorX;
-  state_.CursorY = cursorY;
-  RestoreColors(-1, -1);
 }

@@ -40,7 +40,7 @@ class frmGame : public QMainWindow, public MainWindow {
 
   // False while work is going on that the player must not disturb, or something that he has chosen
   // is not over: a dialog that has just closed is yet to be acted on.
-  bool PlayerMayAct() const { return works_ == 0 && !performing_; }
+  bool PlayerMayAct() const { return !guard_.IsWorking() && !performing_; }
   // Does what the player asks for; false, and nothing done, when he may not act.
   bool Perform(const std::function<void()>& deed);
   bool IsHandActing() const { return inputWatch_.IsHandActing(); }
@@ -51,38 +51,14 @@ class frmGame : public QMainWindow, public MainWindow {
   // Opens the help at a keyword, or at its contents when the topic is empty.
   void GetHelp(const QString& helpTopic);
 
-  void mnuFileNew_Click();
-  void mnuFileOpen_Click();
-  void mnuFileSave_Click();
-  void mnuFileRestart_Click();
-  void mnuFileSolve_Click();
-  void mnuFileAutoplay_Click();
-  void mnuFileOpenReplay_Click();
-  void mnuFileSaveReplay_Click();
-  void mnuFileExit_Click();
-  void mnuEditUndo_Click();
-  void mnuEditRedo_Click();
-  void mnuEditHistory_Click();
-  void mnuEditChessboardOpen_Click();
-  void mnuEditChessboardSave_Click();
-  void mnuPrefs_Click();
-  void mnuViewReplay_Click();
-  void mnuViewHistory_Click();
-  void mnuViewScore_Click();
-  void mnuViewTime_Click();
-  void mnuViewHighScores_Click();
-  void mnuViewLowScores_Click();
-  void mnuHelpContents_Click();
-  void mnuHelpHowToPlay_Click();
-  void mnuHelpAbout_Click();
+  void OpenGameFile(const QString& fileName);
 
   // --- what the game asks of its window ---
   void SetMenuEnabled(MenuEntry entry, bool enabled) override;
   bool IsMenuEnabled(MenuEntry entry) const override;
   void SetMenuChecked(MenuEntry entry, bool checked) override;
-  void RestoreColors(int x, int y) override;
+  void RestoreColors() override;
   void HighlightSquare(int index, bool forced) override;
-  std::string Caption() const override;
   void SetCaption(const std::string& caption) override;
   void EnableClock(bool enabled) override;
   bool IsClockEnabled() const override;
@@ -90,23 +66,15 @@ class frmGame : public QMainWindow, public MainWindow {
   void Tell(const std::string& title, const std::string& text, MessageIcon icon) override;
   void EndGame(const GameOverReport& report) override;
   void DoEvents() override;
-  void BeginWork() override;
-  void EndWork() override;
-  bool IsCloseRequested() const override { return closeRequested_; }
-  void OpenSettingsAndPlaceWindow() override;
-  void CreateBoard() override;
-  void LoadGameSetup() override;
-  void ShowWindow() override;
-  void OpenGameFile(const std::string& fileName) override;
-  void SaveSettings() override;
+  WorkGuard& Guard() override { return guard_; }
 
   // --- what commands ask of it ---
+  void LoadGameSetup() override;
   void Form_Resize() override;
-  void RepaintWholeBoard() override;
-  void RefreshHighlight() override;
+  void CatchUpOnResize() override;
   bool IsMinimised() const override;
   WindowPlacement Placement() const override;
-  void CatchUpOnResize() override;
+  void Exit() override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -114,7 +82,12 @@ class frmGame : public QMainWindow, public MainWindow {
   void moveEvent(QMoveEvent* event) override;
 
  private:
-  void ConnectBoard();
+  void SetUp();
+  void OpenSettingsAndPlaceWindow();
+  void CreateBoard();
+  void ShowWindow();
+  void SaveSettings();
+  void WorkChanged(WorkGuard::Change change);
   void CloseAsRequested();
   bool IsClockResting() const;
   bool IsNormal() const;
@@ -126,7 +99,6 @@ class frmGame : public QMainWindow, public MainWindow {
   Globals& globals_;
   GameState state_;
   Game game_;
-  Random random_;
   HalfSecondTimer tmrTime_;
   BoardView* board_ = nullptr;
   GameMenu menu_;
@@ -139,9 +111,8 @@ class frmGame : public QMainWindow, public MainWindow {
   FocusReturn focusReturn_;
   InputWatch inputWatch_;
   LateAltKey lateAltKey_;
-  int works_ = 0;
+  WorkGuard guard_;
   bool performing_ = false;
-  bool closeRequested_ = false;
   bool resizePending_ = false;
   QRect placedBounds_;  // where the window was put before it was shown
   // From the corner of the window manager's frame to the window's own; known once the window has

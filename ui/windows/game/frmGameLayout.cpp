@@ -44,11 +44,6 @@ QSize SizeOfHeight(int height, int menuHeight, int desktopHeight) {
 }  // namespace
 
 void frmGame::CreateBoard() {
-  ConnectBoard();
-  board_->setFocus();
-}
-
-void frmGame::ConnectBoard() {
   connect(board_, &BoardView::SquareClicked, this,
           [this](int index) { Perform([this, index] { game_.pctGrid_Click(index); }); });
   connect(board_, &BoardView::SquareEntered, this,
@@ -56,6 +51,7 @@ void frmGame::ConnectBoard() {
   connect(board_, &BoardView::KeyPressed, this,
           [this](int keyCode) { Perform([this, keyCode] { game_.pctGrid_KeyDown(keyCode); }); });
   connect(board_, &BoardView::Resized, this, [this] { Form_Resize(); });
+  board_->setFocus();
 }
 
 void frmGame::OpenSettingsAndPlaceWindow() {

@@ -1,7 +1,0 @@
-#include "ui/application/DoEvents.h"
-
-#include <QCoreApplication>
-
-void DoEvents() {
-  QCoreApplication::processEvents();
-}
