@@ -2,8 +2,11 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
+#include <iterator>
 #include <ostream>
 #include <sched.h>
+#include <string>
 #include <sys/mount.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -82,12 +85,37 @@ bool BecomeOrdinaryUser() {
   return setgid(Nobody) == 0 && setuid(Nobody) == 0;
 }
 
+namespace {
+
+bool Write(const char* pathName, const std::string& text) {
+  const int file = open(pathName, O_WRONLY | O_CLOEXEC);
+  if (file < 0) return false;
+  const bool isWritten = write(file, text.data(), text.size()) == std::ssize(text);
+  return close(file) == 0 && isWritten;
+}
+
+// A line of /proc/self/uid_map or gid_map: the account stays itself.
+std::string ToItself(unsigned account) {
+  return std::to_string(account) + " " + std::to_string(account) + " 1";
+}
+
+// Mounts that no other process sees. An account without the right to mount gets it in a user
+// namespace; without maps nothing there belongs to anybody, and no file can be opened.
+bool TakeMountsApart() {
+  if (geteuid() == 0) return unshare(CLONE_NEWNS) == 0;
+  const unsigned user = geteuid();
+  const unsigned group = getegid();
+  return unshare(CLONE_NEWNS | CLONE_NEWUSER) == 0 && Write("/proc/self/setgroups", "deny") &&
+         Write("/proc/self/uid_map", ToItself(user)) &&
+         Write("/proc/self/gid_map", ToItself(group));
+}
+
+}  // namespace
+
 std::function<bool()> MountSmallDisk(const QString& folder, int kilobytes) {
   return [folder, kilobytes] {
-    const int spaces = geteuid() == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER;
     const std::string size = "size=" + std::to_string(kilobytes) + "k";
-    return unshare(spaces) == 0 &&
-           mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+    return TakeMountsApart() && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
            mount("small", QFile::encodeName(folder).constData(), "tmpfs", 0, size.c_str()) == 0;
   };
 }
