@@ -17,7 +17,7 @@ function(make_program_directory target)
     RUNTIME_OUTPUT_DIRECTORY ${GALLOPADE_PROGRAM_DIRECTORY})
   set(stamp ${CMAKE_BINARY_DIR}/program-directory.stamp)
   set(files ${GALLOPADE_PICTURES} ${GALLOPADE_LOOKS} ${PROJECT_SOURCE_DIR}/LICENSE
-    ${GALLOPADE_HELP_FILE})
+    ${PROJECT_SOURCE_DIR}/packaging/README ${GALLOPADE_HELP_FILE})
   add_custom_command(OUTPUT ${stamp}
     COMMAND ${CMAKE_COMMAND} -E make_directory ${GALLOPADE_PROGRAM_DIRECTORY}
     COMMAND ${CMAKE_COMMAND} -E copy_if_different ${files} ${GALLOPADE_PROGRAM_DIRECTORY}
