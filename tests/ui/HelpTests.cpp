@@ -1,5 +1,7 @@
 // The help window on the real help file.
 
+#include <sys/stat.h>
+
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -289,6 +291,17 @@ TEST_F(BrokenHelp, SaysSoWhenTheFileIsCutOff) {
   QFile whole(QString(HELP_FILE_DIRECTORY) + "GallopadeNova.hlp");
   ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
   Write(whole.read(whole.size() / 2));
+  ExpectMessage();
+}
+
+TEST_F(BrokenHelp, SaysSoWhenAPipeHasItsName) {
+  const QByteArray path = QFile::encodeName(directory.filePath("GallopadeNova.hlp"));
+  ASSERT_EQ(mkfifo(path.constData(), 0600), 0);
+  ExpectMessage();
+}
+
+TEST_F(BrokenHelp, SaysSoWhenADeviceHasItsName) {
+  ASSERT_TRUE(QFile::link("/dev/zero", directory.filePath("GallopadeNova.hlp")));
   ExpectMessage();
 }
 

@@ -6,6 +6,7 @@
 namespace {
 
 constexpr const char* VirtualFolder = "help";
+constexpr const char* NotAHelpFile = "It is damaged, or it is not a help file.";
 
 QUrl FirstOf(const QList<QHelpLink>& links) {
   return links.isEmpty() ? QUrl() : links.first().url;
@@ -14,10 +15,14 @@ QUrl FirstOf(const QList<QHelpLink>& links) {
 }  // namespace
 
 HelpBook::HelpBook(const QString& pathName) : engine_(directory_.filePath("collection.qhc")) {
-  if (!QFileInfo::exists(pathName)) {
+  const QFileInfo file(pathName);
+  if (!file.exists()) {
     error_ = "There is no such file.";
+  } else if (!file.isFile()) {
+    // To open a pipe would mean to wait for a writer.
+    error_ = NotAHelpFile;
   } else {
-    Open(QFileInfo(pathName).absoluteFilePath());
+    Open(file.absoluteFilePath());
   }
 }
 
@@ -28,7 +33,7 @@ void HelpBook::Open(const QString& pathName) {
   if (!engine_.setupData()) {
     error_ = engine_.error();
   } else if (nameSpace_.isEmpty() || !engine_.registerDocumentation(pathName)) {
-    error_ = "It is damaged, or it is not a help file.";
+    error_ = NotAHelpFile;
   } else {
     engine_.setupData();
   }
