@@ -1,14 +1,11 @@
 // The help window on the real help file.
 
-#include <sys/stat.h>
-
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QTabWidget>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -61,26 +58,6 @@ class Help : public testing::Test {
   }
 
   frmHelp help;
-};
-
-class BrokenHelp : public testing::Test {
- protected:
-  void Write(const QByteArray& contents) {
-    QFile file(directory.filePath("GallopadeNova.hlp"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(contents);
-  }
-  void ExpectMessage() {
-    frmHelp help(directory.path() + "/");
-    help.ShowContents();
-    help.ShowTopic("How to Play");
-    EXPECT_TRUE(help.isVisible());
-    EXPECT_TRUE(Child<QLabel>(help, "helpError")
-                    .text()
-                    .startsWith("The help file GallopadeNova.hlp could not be opened."));
-  }
-
-  QTemporaryDir directory;
 };
 
 }  // namespace
@@ -271,43 +248,6 @@ TEST_F(Help, OutlivesTheDialogItWasOpenedFrom) {
   help.ShowContents();
   EXPECT_TRUE(help.isVisible());
   EXPECT_EQ(PageName(), "welcome.html");
-}
-
-TEST_F(BrokenHelp, SaysSoWhenTheFileIsMissing) {
-  ExpectMessage();
-}
-
-TEST_F(BrokenHelp, SaysSoWhenTheFileIsEmpty) {
-  Write(QByteArray());
-  ExpectMessage();
-}
-
-TEST_F(BrokenHelp, SaysSoWhenTheFileIsSomethingElse) {
-  Write(QByteArray("This is no help at all.\n").repeated(1000));
-  ExpectMessage();
-}
-
-TEST_F(BrokenHelp, SaysSoWhenTheFileIsCutOff) {
-  QFile whole(QString(HELP_FILE_DIRECTORY) + "GallopadeNova.hlp");
-  ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
-  Write(whole.read(whole.size() / 2));
-  ExpectMessage();
-}
-
-TEST_F(BrokenHelp, SaysSoWhenAPipeHasItsName) {
-  const QByteArray path = QFile::encodeName(directory.filePath("GallopadeNova.hlp"));
-  ASSERT_EQ(mkfifo(path.constData(), 0600), 0);
-  ExpectMessage();
-}
-
-TEST_F(BrokenHelp, SaysSoWhenADeviceHasItsName) {
-  ASSERT_TRUE(QFile::link("/dev/zero", directory.filePath("GallopadeNova.hlp")));
-  ExpectMessage();
-}
-
-TEST_F(BrokenHelp, SaysSoWhenAFolderHasItsName) {
-  ASSERT_TRUE(QDir(directory.path()).mkdir("GallopadeNova.hlp"));
-  ExpectMessage();
 }
 
 class F1 : public testing::Test {
