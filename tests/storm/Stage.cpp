@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QTest>
 
+#include "tests/storm/VirtualTime.h"
 #include "tests/support/Games.h"
 #include "ui/board/BoardView.h"
 
@@ -40,7 +41,7 @@ QString TitleOf(const QWidget& window) {
 Stage::Stage(const QString& settings) {
   globals_.ProgramDirectory = directory_.path() + "/";
   Plant("GallopadeNova.ini", settings.toUtf8());
-  window_ = std::make_unique<frmGame>(globals_);
+  window_ = std::make_unique<frmGame>(globals_, VirtualTime::Look);
   window_->Form_Load({});
   LookOut();
   window_->activateWindow();

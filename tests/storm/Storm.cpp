@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include "tests/storm/Hand.h"
+#include "tests/storm/VirtualTime.h"
 #include "ui/help/frmHelp.h"
 
 namespace {
@@ -65,7 +66,7 @@ void Storm::RunProgram() {
   patience_ = 1 + chance_.Below(LongestSession);
   Globals globals;
   globals.ProgramDirectory = folder_.Name();
-  frmGame window(globals);
+  frmGame window(globals, VirtualTime::Look);
   journal_.Note("start the program");
   ActLater(window);
   window.Form_Load(CommandLine());

@@ -14,6 +14,7 @@ namespace {
 
 constexpr std::int64_t NanosecondsOfSecond = 1'000'000'000;
 constexpr std::int64_t NanosecondsOfMillisecond = 1'000'000;
+constexpr std::int64_t NanosecondsOfLook = 10'000;
 constexpr std::int64_t SystemClockAtStart = 1'900'000'000;
 constexpr std::int64_t SteadyClockAtStart = 1'000;
 constexpr std::size_t KernelSignalSetSize = 8;
@@ -76,6 +77,10 @@ int ppoll(pollfd* files, nfds_t count, const timespec* timeout, const sigset_t* 
 
 std::int64_t VirtualTime::Milliseconds() {
   return nanoseconds / NanosecondsOfMillisecond;
+}
+
+std::chrono::nanoseconds VirtualTime::Look() {
+  return std::chrono::nanoseconds(nanoseconds += NanosecondsOfLook);
 }
 
 std::int64_t VirtualTime::Waits() {

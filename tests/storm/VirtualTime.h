@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 
 // A program that links these two functions runs in a time of its own: it passes only where the
@@ -10,6 +11,10 @@
 namespace VirtualTime {
 
 std::int64_t Milliseconds();
+
+// The time for a loop that looks at it again and again without a turn of the event loop. A look costs
+// ten microseconds.
+std::chrono::nanoseconds Look();
 
 // Never back.
 void JumpTo(std::int64_t milliseconds);

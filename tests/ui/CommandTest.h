@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "tests/support/Games.h"
+#include "tests/ui/Displays.h"
 #include "tests/ui/RecordingMainWindow.h"
 #include "ui/commands/CommandContext.h"
 
@@ -34,7 +35,8 @@ class CommandTest : public testing::Test {
   RecordingWindows windows{window.log};
   RecordingDialogs dialogs{window.log};
   Game game{state, globals.settings, window};
-  CommandContext context{game, state, window, dialogs, windows, globals};
+  PicturePace pace{AlwaysReady()};
+  CommandContext context{game, state, window, dialogs, windows, globals, pace};
 
  private:
   QTemporaryDir directory_;

@@ -23,7 +23,7 @@ void Desk::Open(const QString& settings, const QString& commandLine) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(settings.toUtf8());
   }
-  window_ = std::make_unique<frmGame>(globals);
+  window_ = std::make_unique<frmGame>(globals, clock);
   window_->Form_Load(commandLine);
   window_->activateWindow();  // a dialog at start-up had taken its place
   ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));

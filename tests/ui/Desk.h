@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Globals.h"
+#include "tests/ui/Displays.h"
 #include "ui/windows/game/frmGame.h"
 
 // A desk with the program on it: the real main window, offscreen, in a program directory of its
@@ -45,6 +46,8 @@ class Desk : public testing::Test {
   frmGame& Window() { return *window_; }
   const GameState& State() { return window_->State(); }
   Globals globals;
+  // What the main window keeps time by, from when it opens.
+  PicturePace::Clock clock = AlwaysReady();
 
  private:
   void LookOut();

@@ -4,11 +4,11 @@
 #include <random>
 
 #include <QAbstractButton>
-#include <QLabel>
 #include <QScrollBar>
 #include <QTimer>
 
 #include "tests/ui/CommandTest.h"
+#include "tests/ui/Labels.h"
 #include "ui/windows/frmReplay.h"
 
 // The replay window over a live game, with recording windows around it.
@@ -42,7 +42,7 @@ class Shown {
   QAbstractButton& Button(const char* name) const { return Find<QAbstractButton>(name); }
   QAbstractButton& Automatic() const { return Button("optAdvance(0)"); }
   QAbstractButton& Manual() const { return Button("optAdvance(1)"); }
-  QString Text(const char* label) const { return Find<QLabel>(label).text(); }
+  QString Text(const char* label) const { return TextOf(replay_, label); }
   QString Tag() const { return Bar().property("tag").toString(); }
   QString Caption() const { return Button("cmdAdvancePause").text(); }
   bool IsOn(const char* button) const { return Button(button).isEnabled(); }

@@ -7,6 +7,7 @@
 #include <QWindow>
 
 #include "tests/support/Games.h"
+#include "tests/ui/Labels.h"
 #include "tests/ui/SolveDesk.h"
 #include "tests/ui/SolveTest.h"
 
@@ -131,7 +132,7 @@ TEST_F(SolveBadMoments, LetsTheRefreshBarBeDraggedThroughoutASearch) {
     bar.setSliderDown(true);
     Search(solve, [&](int pause) { bar.setSliderPosition(1 + pause % 3); });
     bar.setSliderDown(false);
-    EXPECT_EQ(Child<QLabel>(solve, "lblTestedValue").text(), "69");
+    EXPECT_EQ(TextOf(solve, "lblTestedValue"), "69");
     EXPECT_EQ(globals.settings.SolveRefreshRate, bar.value());
   });
   ExpectSameGame(State(), before);

@@ -4,9 +4,9 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLabel>
 
 #include "tests/support/Games.h"
+#include "tests/ui/Labels.h"
 #include "tests/ui/SolveDesk.h"
 
 namespace {
@@ -51,7 +51,7 @@ TEST_P(SolveCases, AreAnsweredExactly) {
       box.close();
     });
     Search(solve, [](int) {});
-    EXPECT_EQ(Child<QLabel>(solve, "lblTestedValue").text().toLongLong(),
+    EXPECT_EQ(TextOf(solve, "lblTestedValue").toLongLong(),
               known["entries"].toInteger() - 1);
   });
   EXPECT_EQ(MovesMade(State()), solved ? Squares(known["tour"]) : moves);

@@ -1,11 +1,11 @@
 // What is painted while a search runs.
 
-#include <QLabel>
 #include <QScreen>
 
 #include "tests/ui/SolveDesk.h"
 #include "tests/ui/SolveTest.h"
 #include "ui/board/BoardView.h"
+#include "ui/widgets/ValueLabel.h"
 
 namespace {
 
@@ -43,7 +43,9 @@ class SolveRedraws : public SolveDesk {
     });
   }
 
-  static QLabel& Value(frmSolve& solve, const char* name) { return Child<QLabel>(solve, name); }
+  static ValueLabel& Value(frmSolve& solve, const char* name) {
+    return Child<ValueLabel>(solve, name);
+  }
 };
 
 QStringList EverySecondCount() {
@@ -66,8 +68,8 @@ bool AreInOrderIn(const QStringList& list, const QStringList& these) {
 TEST_F(SolveRedraws, PaintTheCountEachTime) {
   OpenGame(Positions::Unsolvable, 1);
   Solve([this](frmSolve& solve) {
-    QLabel& tested = Value(solve, "lblTestedValue");
-    const Paints paints(tested, [&] { return tested.text(); });
+    ValueLabel& tested = Value(solve, "lblTestedValue");
+    const Paints paints(tested, [&] { return tested.Text(); });
     SearchInVain(solve, [] {});
     EXPECT_TRUE(AreInOrderIn(paints.List(), EverySecondCount()));
   });
@@ -76,11 +78,11 @@ TEST_F(SolveRedraws, PaintTheCountEachTime) {
 TEST_F(SolveRedraws, PaintTheSquareEachTime) {
   OpenGame(Positions::Unsolvable, 1);
   Solve([this](frmSolve& solve) {
-    QLabel& square = Value(solve, "lblPositionValue");
-    const Paints paints(square, [&] { return square.text(); });
+    ValueLabel& square = Value(solve, "lblPositionValue");
+    const Paints paints(square, [&] { return square.Text(); });
     QStringList shown;
     SearchInVain(solve, [&] {
-      if (shown.isEmpty() || shown.last() != square.text()) shown += square.text();
+      if (shown.isEmpty() || shown.last() != square.Text()) shown += square.Text();
     });
     EXPECT_GE(shown.size(), 20);
     EXPECT_TRUE(AreInOrderIn(paints.List(), shown));

@@ -2,6 +2,8 @@
 
 #include <stdexcept>
 
+#include "tests/ui/Labels.h"
+
 void SolveTest::Open(std::string_view squares, int refreshRate) {
   Begin(1);
   PlaySquares(game, squares);
@@ -40,9 +42,7 @@ void SolveTest::Press(const char* button) {
 }
 
 std::string SolveTest::Text(const char* label) const {
-  const auto* found = solve->findChild<QLabel*>(label);
-  if (found == nullptr) throw std::runtime_error(std::string("no label named ") + label);
-  return found->text().toStdString();
+  return TextOf(*solve, label).toStdString();
 }
 
 std::string SolveTest::Values() const {

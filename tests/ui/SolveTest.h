@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include <QAbstractButton>
-#include <QLabel>
 
 #include "tests/ui/CommandTest.h"
 #include "ui/windows/frmSolve.h"

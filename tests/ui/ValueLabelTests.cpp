@@ -2,9 +2,14 @@
 #include <QGroupBox>
 #include <gtest/gtest.h>
 
+#include "tests/ui/Displays.h"
 #include "ui/widgets/ValueLabel.h"
 
 namespace {
+
+QString Nothing(std::int64_t) {
+  return {};
+}
 
 // A value in a frame, as it stands in a window.
 struct Framed {
@@ -24,8 +29,9 @@ struct Framed {
     return false;
   }
 
+  PicturePace pace{AlwaysReady()};
   QGroupBox frame;
-  ValueLabel value{"88888888", &frame};
+  ValueLabel value{pace, "88888888", &frame};
 };
 
 QImage Picture(QWidget& widget) {
@@ -37,16 +43,16 @@ QImage Picture(QWidget& widget) {
 TEST(ValueLabelTest, KeepsTheSizeOfItsLongestText) {
   Framed framed;
   const QSize size = framed.value.size();
-  framed.value.setText("1");
+  framed.value.ShowValue(1);
   EXPECT_EQ(framed.value.size(), size);
   EXPECT_EQ(framed.value.minimumSize(), framed.value.maximumSize());
 }
 
 TEST(ValueLabelTest, StandsOnTheRight) {
   Framed framed;
-  framed.value.setText(QString());
+  framed.value.ShowValue(0, Nothing);
   const QImage empty = Picture(framed.frame);
-  framed.value.setText("8");
+  framed.value.ShowValue(8);
   const QImage full = Picture(framed.frame);
   const QRect box = framed.value.geometry();
   const QRect left(box.topLeft(), QSize(box.width() / 2, box.height()));
@@ -56,7 +62,7 @@ TEST(ValueLabelTest, StandsOnTheRight) {
 
 TEST(ValueLabelTest, ShowsItsParentBehindTheText) {
   Framed framed;
-  framed.value.setText(QString());
+  framed.value.ShowValue(0, Nothing);
   const QImage covered = Picture(framed.frame);
   framed.value.hide();
   EXPECT_EQ(Picture(framed.frame), covered);
@@ -73,17 +79,17 @@ TEST(ValueLabelTest, FollowsTheColoursOfTheDesktop) {
 
 TEST(ValueLabelTest, LeavesNoTraceOfItsLastValue) {
   Framed framed;
-  framed.value.setText("1234");
+  framed.value.ShowValue(1234);
   const QImage first = Picture(framed.frame);
-  framed.value.setText("567");
+  framed.value.ShowValue(567);
   Picture(framed.frame);
-  framed.value.setText("1234");
+  framed.value.ShowValue(1234);
   EXPECT_EQ(Picture(framed.frame), first);
 }
 
 TEST(ValueLabelTest, TellsItsValueToAScreenReader) {
   Framed framed;
-  framed.value.setText("4711");
+  framed.value.ShowValue(4711);
   QAccessibleInterface* label = QAccessible::queryAccessibleInterface(&framed.value);
   EXPECT_EQ(label->role(), QAccessible::StaticText);
   EXPECT_EQ(label->text(QAccessible::Name), "4711");
@@ -92,7 +98,7 @@ TEST(ValueLabelTest, TellsItsValueToAScreenReader) {
 TEST(ValueLabelTest, TellsAScreenReaderTheNewValueWhenItAsks) {
   Framed framed;
   QAccessibleInterface* label = QAccessible::queryAccessibleInterface(&framed.value);
-  framed.value.ShowValue("1");
-  framed.value.ShowValue("2");
+  framed.value.ShowValue(1);
+  framed.value.ShowValue(2);
   EXPECT_EQ(label->text(QAccessible::Name), "2");
 }

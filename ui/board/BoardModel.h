@@ -58,6 +58,7 @@ class BoardModel {
 
   // The cells that changed since the last call.
   CellSet TakeChanges();
+  bool HasChanged() const { return changes_ != 0; }
 
  private:
   template <typename Property, typename Value>

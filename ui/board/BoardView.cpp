@@ -22,7 +22,8 @@ QRect RectangleOf(const std::array<PixelSpan, BoardSide>& spans, int index) {
 
 }  // namespace
 
-BoardView::BoardView(const GameState& state, QWidget* parent) : QWidget(parent), state_(state) {
+BoardView::BoardView(const GameState& state, PicturePace& pace, QWidget* parent)
+    : QWidget(parent), state_(state), picture_(pace, *this, [this] { PaintChanges(); }) {
   AccessibleBoard::Install();
   setObjectName("pctGrid");
   setAccessibleName("Chessboard");
@@ -64,9 +65,12 @@ void BoardView::PaintEverything() {
   update();
 }
 
+void BoardView::PaintChanges() {
+  update(RegionOf(model_.TakeChanges()));
+}
+
 void BoardView::ShowChanges() {
-  const BoardModel::CellSet changes = model_.TakeChanges();
-  if (changes != 0) update(RegionOf(changes));
+  if (model_.HasChanged()) picture_.Changed();
   announcer_.Announce();
 }
 

@@ -8,6 +8,7 @@
 #include "ui/board/BoardModel.h"
 #include "ui/board/BoardPictures.h"
 #include "ui/board/CellPainter.h"
+#include "ui/widgets/PicturePace.h"
 
 // The inside of the main window: the board of 64 cells in its frame. It paints what the model holds
 // and turns pointer and keys into squares and key codes; it knows no rule. To a screen reader it is
@@ -16,7 +17,8 @@ class BoardView : public QWidget {
   Q_OBJECT
 
  public:
-  explicit BoardView(const GameState& state, QWidget* parent = nullptr);
+  // Game and pace outlive the view.
+  BoardView(const GameState& state, PicturePace& pace, QWidget* parent = nullptr);
 
   const GameState& State() const { return state_; }
   BoardModel& Model() { return model_; }
@@ -29,7 +31,8 @@ class BoardView : public QWidget {
   void SetCornerDistance(int cornerDistance) { cornerDistance_ = cornerDistance; }
   // Fits the squares to the height of the view.
   void LayOut(const BoardLook& look);
-  // Has the cells that changed since the last call painted with the next events.
+  // Has the cells that changed since the last call painted with the next events, or at the pace of
+  // the display.
   void ShowChanges();
 
   // Logical pixels, relative to the view.
@@ -66,11 +69,13 @@ class BoardView : public QWidget {
 
  private:
   void PaintEverything();
+  void PaintChanges();
   QRegion RegionOf(BoardModel::CellSet cells) const;
   void PaintCells(QPainter& painter, const QRegion& region);
   void PaintBackground(QPainter& painter, const QRegion& region);
 
   const GameState& state_;
+  PacedPicture picture_;
   BoardModel model_;
   BoardLayout layout_;
   int cornerDistance_ = 0;

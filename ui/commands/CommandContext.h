@@ -5,6 +5,7 @@
 #include "ui/commands/Dialogs.h"
 #include "ui/commands/MainWindow.h"
 #include "ui/commands/SecondaryWindows.h"
+#include "ui/widgets/PicturePace.h"
 
 // All that a command may use; everything in it outlives the command.
 struct CommandContext {
@@ -14,6 +15,7 @@ struct CommandContext {
   Dialogs& dialogs;
   SecondaryWindows& windows;
   Globals& globals;
+  PicturePace& pace;
 };
 
 // The clock rests for the length of a scope, usually that of a dialog, and then runs again if it

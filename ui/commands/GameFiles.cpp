@@ -19,6 +19,15 @@ QString ChooseGame(const CommandContext& context) {
   return fileName;
 }
 
+// The board is seen filling.
+void OpenSavedGame(const CommandContext& context, const GameFile& file) {
+  const WatchedWork walk(context.pace, static_cast<int>(file.moves.size()));
+  context.game.OpenSavedGame(
+      {.elapsedHalfSeconds = file.hasClock ? std::optional(file.elapsedHalfSeconds) : std::nullopt,
+       .noScoreGame = file.noScoreGame,
+       .moves = file.moves});
+}
+
 // The game that was to be opened is lost half-way, so a new one begins without a question.
 void ReportFailure(const CommandContext& context, const GameFileFailure& failure) {
   context.window.Tell("Sorry...", FailureText(failure).toStdString(), MessageIcon::Exclamation);
@@ -61,10 +70,7 @@ void LoadGame(const CommandContext& context, const LoadRequest& request) {
     return;
   }
   const GameFile file = ReadGameFile(fileName);
-  context.game.OpenSavedGame(
-      {.elapsedHalfSeconds = file.hasClock ? std::optional(file.elapsedHalfSeconds) : std::nullopt,
-       .noScoreGame = file.noScoreGame,
-       .moves = file.moves});
+  OpenSavedGame(context, file);
   if (file.failure) {
     ReportFailure(context, *file.failure);
   } else {

@@ -7,10 +7,12 @@ void mnuFileNew_Click(const CommandContext& context) {
 }
 
 void mnuFileRestart_Click(const CommandContext& context) {
+  const WatchedWork walk(context.pace, context.state.MoveCount);
   context.game.mnuFileRestart_Click();
 }
 
 void mnuFileAutoplay_Click(const CommandContext& context) {
+  const WatchedWork walk(context.pace, SquareCount - context.state.MoveCount);
   Random random;
   mnuFileAutoplay_Click(context.game, context.state, context.window, random);
 }

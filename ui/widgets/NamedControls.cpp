@@ -29,8 +29,9 @@ QLabel* AddLabel(QWidget* parent, const char* name, const QString& text) {
   return label;
 }
 
-ValueLabel* AddValueLabel(QWidget* parent, const char* name, const QString& longest) {
-  auto* label = new ValueLabel(longest, parent);
+ValueLabel* AddValueLabel(PicturePace& pace, QWidget* parent, const char* name,
+                          const QString& longest) {
+  auto* label = new ValueLabel(pace, longest, parent);
   label->setObjectName(name);
   return label;
 }

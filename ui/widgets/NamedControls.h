@@ -5,6 +5,7 @@
 class QGroupBox;
 class QLabel;
 class QRadioButton;
+class PicturePace;
 class QWidget;
 class ValueLabel;
 
@@ -19,5 +20,6 @@ QRadioButton* AddOption(QWidget* parent, const QString& name, const QString& cap
 // Shows its text as it stands, never as markup.
 QLabel* AddLabel(QWidget* parent, const char* name, const QString& text);
 
-// For a value that changes fast: the label has the size of the longest text.
-ValueLabel* AddValueLabel(QWidget* parent, const char* name, const QString& longest);
+// For a value that changes fast: the label has the size of the longest text. The pace outlives it.
+ValueLabel* AddValueLabel(PicturePace& pace, QWidget* parent, const char* name,
+                          const QString& longest);

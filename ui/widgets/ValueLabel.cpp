@@ -4,6 +4,8 @@
 #include <QEvent>
 #include <QPainter>
 
+#include "core/Square.h"
+
 namespace {
 
 constexpr int TellingMilliseconds = 100;
@@ -14,7 +16,7 @@ class AccessibleValue : public QAccessibleWidget {
       : QAccessibleWidget(&label, QAccessible::StaticText), label_(label) {}
 
   QString text(QAccessible::Text kind) const override {
-    return kind == QAccessible::Name ? label_.text() : QAccessibleWidget::text(kind);
+    return kind == QAccessible::Name ? label_.Text() : QAccessibleWidget::text(kind);
   }
 
  private:
@@ -34,14 +36,19 @@ QPixmap NewPixmap(const QSize& size, double devicePixelRatio) {
 
 }  // namespace
 
-ValueLabel::ValueLabel(const QString& longest, QWidget* parent) : QLabel(parent) {
+QString AsNumber(std::int64_t value) {
+  return QString::number(value);
+}
+
+QString AsSquare(std::int64_t value) {
+  const int index = static_cast<int>(value);
+  return QString::fromStdString(SquareName(ColumnOf(index), RowOf(index)));
+}
+
+ValueLabel::ValueLabel(PicturePace& pace, const QString& longest, QWidget* parent)
+    : QWidget(parent), picture_(pace, *this, [this] { update(); }) {
   QAccessible::installFactory(MakeAccessible);
-  // With a name of its own the label does not send its text out each time; the name is never read.
-  setAccessibleName(longest);
-  setText(longest);
-  setTextFormat(Qt::PlainText);
-  setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  setFixedSize(sizeHint());
+  setFixedSize(fontMetrics().size(Qt::TextSingleLine, longest));
   setAttribute(Qt::WA_OpaquePaintEvent);
   tellScreenReader_.setSingleShot(true);
   tellScreenReader_.setInterval(TellingMilliseconds);
@@ -51,8 +58,11 @@ ValueLabel::ValueLabel(const QString& longest, QWidget* parent) : QLabel(parent)
   });
 }
 
-void ValueLabel::ShowValue(const QString& value) {
-  setText(value);
+void ValueLabel::ShowValue(std::int64_t value, Wording wording) {
+  if (value == value_ && wording == wording_) return;
+  value_ = value;
+  wording_ = wording;
+  picture_.Changed();
   if (!tellScreenReader_.isActive()) tellScreenReader_.start();
 }
 
@@ -62,7 +72,7 @@ void ValueLabel::paintEvent(QPaintEvent*) {
   if (background_.isNull()) DrawBackground();
   QPainter painter(this);
   painter.drawPixmap(0, 0, background_);
-  const QString shown = text();
+  const QString shown = Text();
   double left = width();
   for (qsizetype place = shown.size() - 1; place >= 0; --place) {
     const QPixmap& drawn = Character(shown[place]);
@@ -97,11 +107,11 @@ void ValueLabel::Forget() {
 }
 
 void ValueLabel::changeEvent(QEvent* event) {
-  QLabel::changeEvent(event);
+  QWidget::changeEvent(event);
   Forget();
 }
 
 void ValueLabel::moveEvent(QMoveEvent* event) {
-  QLabel::moveEvent(event);
+  QWidget::moveEvent(event);
   Forget();
 }

@@ -1,20 +1,34 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 
-#include <QLabel>
 #include <QPixmap>
 #include <QTimer>
+#include <QWidget>
 
-// A label of the size of its longest text, for a value that changes thousands of times a second: a
-// new value moves nothing, has nothing painted behind it and is put together from characters that
-// were drawn before. A screen reader that asks gets the value; of changes it is told a few times a
-// second.
-class ValueLabel : public QLabel {
+#include "ui/widgets/PicturePace.h"
+
+// How a value reads.
+using Wording = QString (*)(std::int64_t value);
+QString AsNumber(std::int64_t value);
+// value: the on-screen index of a square.
+QString AsSquare(std::int64_t value);
+
+// A label of the size of its longest text, for a value that may change a million times a second. Its
+// text is put together when it is painted, asked for or told to a screen reader, and at no other
+// time. A new value moves nothing, has nothing painted behind it and is made of characters that were
+// drawn before. A screen reader that asks gets the value; of changes it is told a few times a second.
+class ValueLabel : public QWidget {
+  Q_OBJECT
+
  public:
-  ValueLabel(const QString& longest, QWidget* parent);
+  // The pace outlives the label.
+  ValueLabel(PicturePace& pace, const QString& longest, QWidget* parent);
 
-  void ShowValue(const QString& value);
+  void ShowValue(std::int64_t value, Wording wording = AsNumber);
+  std::int64_t Value() const { return value_; }
+  QString Text() const { return wording_(value_); }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -26,6 +40,9 @@ class ValueLabel : public QLabel {
   void DrawBackground();
   const QPixmap& Character(QChar character);
 
+  std::int64_t value_ = 0;
+  Wording wording_ = AsNumber;
+  PacedPicture picture_;
   QTimer tellScreenReader_;
   QPixmap background_;  // what its parent shows there, made when first needed
   std::map<QChar, QPixmap> characters_;

@@ -26,6 +26,10 @@ constexpr int SeekLargeStep = 10;
 constexpr int MillisecondsOfTenth = 100;
 constexpr const char* Tag = "tag";
 
+QString AsSeconds(std::int64_t tenths) {
+  return QString::number(static_cast<double>(tenths) / 10) + " sec.";
+}
+
 }  // namespace
 
 frmReplay::frmReplay(const CommandContext& context, QWidget* mainWindow)
@@ -55,10 +59,10 @@ QGroupBox* frmReplay::AddKnightFrame() {
   QGroupBox* frame = AddFrame(this, "fraKnight", " Knight:");
   auto* layout = new QGridLayout(frame);
   layout->addWidget(AddLabel(frame, "lblMove", "Move:"), 0, 0);
-  lblMoveValue_ = AddValueLabel(frame, "lblMoveValue", "64");
+  lblMoveValue_ = AddValueLabel(context_.pace, frame, "lblMoveValue", "64");
   layout->addWidget(lblMoveValue_, 0, 1, Qt::AlignRight);
   layout->addWidget(AddLabel(frame, "lblPosition", "Position:"), 1, 0);
-  lblPositionValue_ = AddValueLabel(frame, "lblPositionValue", "WW");
+  lblPositionValue_ = AddValueLabel(context_.pace, frame, "lblPositionValue", "WW");
   layout->addWidget(lblPositionValue_, 1, 1, Qt::AlignRight);
   return frame;
 }
@@ -97,7 +101,7 @@ QGroupBox* frmReplay::AddAdvanceFrame() {
     });
   }
   lblSpeedSeek_ = AddLabel(frame, "lblSpeedSeek", "Speed:");
-  lblSpeedSeekValue_ = AddValueLabel(frame, "lblSpeedSeekValue", "0.1 sec.");
+  lblSpeedSeekValue_ = AddValueLabel(context_.pace, frame, "lblSpeedSeekValue", "0.1 sec.");
   hsclSpeedSeekSet_ = new ScrollBar(frame);
   hsclSpeedSeekSet_->setObjectName("hsclSpeedSeekSet");
   hsclSpeedSeekSet_->setRange(1, SquareCount);
@@ -113,7 +117,7 @@ QGroupBox* frmReplay::AddAdvanceFrame() {
 
 void frmReplay::StartWith(int Total) {
   replayTotal_ = std::max(Total, 1);
-  lblMoveValue_->ShowValue("1");
+  lblMoveValue_->ShowValue(1);
   lblMoveValue_Change();
   const Globals& globals = context_.globals;
   const ReplaySettings kept = ReadReplaySettings(globals.IniFile, globals.IniFilePathName);
@@ -154,7 +158,7 @@ bool frmReplay::StepTowardsGoal() {
 }
 
 void frmReplay::ShowPosition() {
-  lblMoveValue_->ShowValue(QString::number(ReplayPosition()));
+  lblMoveValue_->ShowValue(ReplayPosition());
   lblMoveValue_Change();
   // A restarted replay is on offer again, even of one square: its first step ends it.
   const bool finished = ReplayPosition() == replayTotal_ && !goal_.restart;
@@ -164,13 +168,13 @@ void frmReplay::ShowPosition() {
   cmdRestart_->setEnabled(finished || ReplayPosition() > 1);
   if (IsAutomatic()) return;
   SetBar(replayTotal_, ReplayPosition(), SeekLargeStep);
-  lblSpeedSeekValue_->ShowValue(QString::number(ReplayPosition()));
+  lblSpeedSeekValue_->ShowValue(ReplayPosition());
 }
 
 void frmReplay::lblMoveValue_Change() {
-  const int move = lblMoveValue_->text().toInt();
-  const MoveRow& square = context_.state.MoveList[static_cast<std::size_t>(move - 1)];
-  lblPositionValue_->ShowValue(QString::fromStdString(SquareName(square.x, square.y)));
+  const auto move = static_cast<std::size_t>(lblMoveValue_->Value());
+  const MoveRow& square = context_.state.MoveList[move - 1];
+  lblPositionValue_->ShowValue(SquareIndex(square.x, square.y), AsSquare);
 }
 
 // A tick asks for nothing while the knight is walking anyway.
@@ -181,7 +185,7 @@ void frmReplay::tmrAdvance_Timer() {
 void frmReplay::hsclSpeedSeekSet_Change() {
   const int value = hsclSpeedSeekSet_->value();
   if (IsAutomatic()) {
-    lblSpeedSeekValue_->ShowValue(QString::number(value / 10.0) + " sec.");
+    lblSpeedSeekValue_->ShowValue(value, AsSeconds);
     tmrAdvance_->setInterval(value * MillisecondsOfTenth);
   } else {
     DoUpdateReplay(value - ReplayPosition());

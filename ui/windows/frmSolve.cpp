@@ -19,6 +19,10 @@ constexpr int SlowestRefresh = 32000;
 constexpr int RefreshSmallStep = 100;
 constexpr int RefreshLargeStep = 1000;
 
+QString AsRefresh(std::int64_t rate) {
+  return rate < 2 ? "On Every Move" : "Every" + QString::fromStdString(NumberText(rate)) + " Moves";
+}
+
 }  // namespace
 
 frmSolve::frmSolve(const CommandContext& context, QWidget* mainWindow)
@@ -41,13 +45,13 @@ QGroupBox* frmSolve::AddKnightFrame() {
   auto* layout = new QGridLayout(frame);
   layout->setColumnStretch(1, 1);
   layout->addWidget(AddLabel(frame, "lblTested", "Tested:"), 0, 0);
-  lblTestedValue_ = AddValueLabel(frame, "lblTestedValue", "888888888888888");
+  lblTestedValue_ = AddValueLabel(context_.pace, frame, "lblTestedValue", "888888888888888");
   layout->addWidget(lblTestedValue_, 0, 1, Qt::AlignRight);
   layout->addWidget(AddLabel(frame, "lblMove", "Move:"), 1, 0);
-  lblMoveValue_ = AddValueLabel(frame, "lblMoveValue", "88");
+  lblMoveValue_ = AddValueLabel(context_.pace, frame, "lblMoveValue", "88");
   layout->addWidget(lblMoveValue_, 1, 1, Qt::AlignRight);
   layout->addWidget(AddLabel(frame, "lblPosition", "Position:"), 2, 0);
-  lblPositionValue_ = AddValueLabel(frame, "lblPositionValue", "W8");
+  lblPositionValue_ = AddValueLabel(context_.pace, frame, "lblPositionValue", "W8");
   layout->addWidget(lblPositionValue_, 2, 1, Qt::AlignRight);
   return frame;
 }
@@ -61,7 +65,7 @@ QGroupBox* frmSolve::AddRefreshFrame() {
   hsclRefreshRateValue_->setSingleStep(RefreshSmallStep);
   hsclRefreshRateValue_->setPageStep(RefreshLargeStep);
   hsclRefreshRateValue_->setValue(context_.globals.settings.SolveRefreshRate);
-  lblRefreshRate_ = AddValueLabel(frame, "lblRefreshRate", "Every 32000 Moves");
+  lblRefreshRate_ = AddValueLabel(context_.pace, frame, "lblRefreshRate", "Every 32000 Moves");
   connect(hsclRefreshRateValue_, &ScrollBar::valueChanged, this,
           &frmSolve::hsclRefreshRateValue_Change);
   hsclRefreshRateValue_Change();
@@ -94,8 +98,7 @@ QPushButton* frmSolve::AddButton(const char* name, const char* caption,
 void frmSolve::hsclRefreshRateValue_Change() {
   const int rate = hsclRefreshRateValue_->value();
   context_.globals.settings.SolveRefreshRate = static_cast<std::int16_t>(rate);
-  lblRefreshRate_->ShowValue(
-      rate < 2 ? "On Every Move" : "Every" + QString::fromStdString(NumberText(rate)) + " Moves");
+  lblRefreshRate_->ShowValue(rate, AsRefresh);
 }
 
 void frmSolve::ShowProgress() {
@@ -104,16 +107,9 @@ void frmSolve::ShowProgress() {
 
 void frmSolve::ShowValues(std::int64_t tested) {
   const GameState& state = context_.state;
-  if (std::exchange(shownTested_, tested) != tested) {
-    lblTestedValue_->ShowValue(QString::number(tested));
-  }
-  if (std::exchange(shownMove_, state.MoveCount) != state.MoveCount) {
-    lblMoveValue_->ShowValue(QString::number(state.MoveCount));
-  }
-  const int square = SquareIndex(state.KnightX, state.KnightY);
-  if (std::exchange(shownSquare_, square) != square) {
-    lblPositionValue_->ShowValue(QString::fromStdString(SquareName(state.KnightX, state.KnightY)));
-  }
+  lblTestedValue_->ShowValue(tested);
+  lblMoveValue_->ShowValue(state.MoveCount);
+  lblPositionValue_->ShowValue(SquareIndex(state.KnightX, state.KnightY), AsSquare);
 }
 
 void frmSolve::OfferStop(bool stop) {
@@ -144,6 +140,7 @@ void frmSolve::Search() {
 }
 
 bool frmSolve::FindTour() {
+  const WatchedWork search(context_.pace);
   solver_ = SolverState();
   context_.state.SolverRunning = true;
   const bool solved =
@@ -160,6 +157,7 @@ void frmSolve::EndSearch(bool solved) {
   context_.game.DoCaption();
   context_.window.DoEvents();
   ShowProgress();
+  context_.pace.Complete();
   if (stopped) {
     cmdBacktrack_->setEnabled(solveStartMove_ < context_.state.MoveCount);
   } else if (solved) {
@@ -184,7 +182,9 @@ void frmSolve::cmdBacktrack_Click() {
 
 void frmSolve::Backtrack() {
   const QScopedValueRollback working(working_, true);
-  for (int undos = context_.state.MoveCount - solveStartMove_; undos > 0; --undos) {
+  int undos = context_.state.MoveCount - solveStartMove_;
+  const WatchedWork walk(context_.pace, undos);
+  for (; undos > 0; --undos) {
     context_.game.mnuEditUndo_Click();
     context_.window.DoEvents();
   }
@@ -198,6 +198,7 @@ void frmSolve::cmdClose_Click() {
 }
 
 void frmSolve::done(int) {
+  context_.pace.Hurry();
   if (std::exchange(closing_, true)) return;
   if (stopOffered_) cmdStartStop_Click();
   if (!working_) Leave();

@@ -66,8 +66,4 @@ class frmSolve : public QDialog, public SolveProgress {
   bool stopOffered_ = false;  // cmdStartStop reads "Stop"
   bool working_ = false;      // a search or a backtrack is on the stack
   bool closing_ = false;
-  // What the labels show.
-  std::int64_t shownTested_ = -1;
-  int shownMove_ = -1;
-  int shownSquare_ = -1;
 };

@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include "ui/application/AccessibleDialog.h"
+#include "ui/application/DoEvents.h"
 #include "ui/board/BoardView.h"
 #include "ui/commands/EndOfGame.h"
 #include "ui/commands/GameFiles.h"
@@ -22,21 +23,22 @@ constexpr int PixmapCacheKilobytes = 1024;
 
 }  // namespace
 
-frmGame::frmGame(Globals& globals)
+frmGame::frmGame(Globals& globals, PicturePace::Clock clock)
     : globals_(globals),
       game_(state_, globals.settings, *this),
       tmrTime_([this] { game_.tmrTime_Timer(); }),
+      pace_(std::move(clock)),
+      board_(std::make_unique<BoardView>(state_, pace_)),
       menu_(*this),
       dialogs_(*this),
       windows_(*this),
-      context_{game_, state_, *this, dialogs_, windows_, globals},
+      context_{game_, state_, *this, dialogs_, windows_, globals, pace_},
       helpKey_([this](const QString& topic) { GetHelp(topic); }),
       guard_([this](WorkGuard::Change change) { WorkChanged(change); }) {
   AccessibleDialog::Install();
   QPixmapCache::setCacheLimit(PixmapCacheKilobytes);
   setObjectName("frmGame");
-  board_ = new BoardView(state_, this);
-  setCentralWidget(board_);
+  setCentralWidget(board_.get());
 }
 
 frmGame::~frmGame() = default;
@@ -105,20 +107,23 @@ bool frmGame::IsClockEnabled() const {
 }
 
 bool frmGame::Ask(const std::string& title, const std::string& text, DefaultAnswer defaultAnswer) {
+  pace_.Complete();
   return AskQuestion(*this, QString::fromStdString(title), QString::fromStdString(text),
                      defaultAnswer);
 }
 
 void frmGame::Tell(const std::string& title, const std::string& text, MessageIcon icon) {
+  pace_.Complete();
   TellMessage(*this, QString::fromStdString(title), QString::fromStdString(text), icon);
 }
 
 void frmGame::EndGame(const GameOverReport& report) {
+  pace_.Complete();
   ::EndGame(context_, report);
 }
 
 void frmGame::DoEvents() {
-  QCoreApplication::processEvents();
+  ::DoEvents(pace_);
 }
 
 void frmGame::WorkChanged(WorkGuard::Change change) {
@@ -144,6 +149,7 @@ void frmGame::CloseAsRequested() {
 void frmGame::closeEvent(QCloseEvent* event) {
   if (QApplication::activeModalWidget() != nullptr) return event->ignore();
   guard_.SetCloseRequested(!PlayerMayAct());
+  if (!PlayerMayAct()) pace_.Hurry();
   event->setAccepted(PlayerMayAct() && game_.Form_Unload());
   if (event->isAccepted()) SaveSettings();
 }

@@ -31,8 +31,9 @@ class frmGame : public QMainWindow, public MainWindow {
   Q_OBJECT
 
  public:
-  // globals outlives the window and holds the program directory.
-  explicit frmGame(Globals& globals);
+  // globals outlives the window and holds the program directory. clock: what the pictures keep time
+  // by.
+  explicit frmGame(Globals& globals, PicturePace::Clock clock = PicturePace::SteadyTime);
   ~frmGame() override;
 
   // Start-up; shows the window.
@@ -100,7 +101,8 @@ class frmGame : public QMainWindow, public MainWindow {
   GameState state_;
   Game game_;
   HalfSecondTimer tmrTime_;
-  BoardView* board_ = nullptr;
+  PicturePace pace_;
+  std::unique_ptr<BoardView> board_;  // gone before what it shows
   GameMenu menu_;
   ScreenDialogs dialogs_;
   ScreenWindows windows_;

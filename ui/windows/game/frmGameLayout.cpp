@@ -44,13 +44,13 @@ QSize SizeOfHeight(int height, int menuHeight, int desktopHeight) {
 }  // namespace
 
 void frmGame::CreateBoard() {
-  connect(board_, &BoardView::SquareClicked, this,
+  connect(board_.get(), &BoardView::SquareClicked, this,
           [this](int index) { Perform([this, index] { game_.pctGrid_Click(index); }); });
-  connect(board_, &BoardView::SquareEntered, this,
+  connect(board_.get(), &BoardView::SquareEntered, this,
           [this](int index) { Perform([this, index] { game_.pctGrid_MouseMove(index, 0); }); });
-  connect(board_, &BoardView::KeyPressed, this,
+  connect(board_.get(), &BoardView::KeyPressed, this,
           [this](int keyCode) { Perform([this, keyCode] { game_.pctGrid_KeyDown(keyCode); }); });
-  connect(board_, &BoardView::Resized, this, [this] { Form_Resize(); });
+  connect(board_.get(), &BoardView::Resized, this, [this] { Form_Resize(); });
   board_->setFocus();
 }
 
