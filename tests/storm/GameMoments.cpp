@@ -86,11 +86,11 @@ void Restarting(Stage& stage) {
 
 void SteppingBack(Stage& stage) {
   stage.Play(40);
-  stage.Next([](Window& history) {
+  stage.Next([&stage](Window& history) {
+    stage.After(5, [&stage] { stage.Moment(); });
     history.findChild<QListWidget*>("lstMoves")->setCurrentRow(0);
     Press(history, "cmdOptionsOrUndo");
   });
-  stage.WhenAtWork([&stage] { stage.Moment(); });
   stage.Choose("mnuEditHistory");
 }
 
@@ -239,7 +239,7 @@ const std::vector<MomentRow>& GameMoments() {
       {"Autoplay", Work, Autoplay},
       {"AFileBeingOpened", Work, Loading},
       {"Restart", Work, Restarting},
-      {"StepsOfTheCommandHistory", Work, SteppingBack},
+      {"StepsOfTheCommandHistory", Dialog, SteppingBack},
       {"TheSolveWindow", Dialog, SolveIdle},
       {"ASearch", Dialog, Solving, {}, NoWarnings},
       {"ASearchThatUnwinds", Dialog, Unwinding, {}, NoWarnings},

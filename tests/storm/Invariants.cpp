@@ -106,17 +106,22 @@ std::string CaptionOf(const GameState& state, const Settings& settings) {
   return caption;
 }
 
-bool IsSolveWindowOpen() {
+bool IsOpen(const char* name) {
   const QWidgetList windows = QApplication::topLevelWidgets();
-  return std::any_of(windows.begin(), windows.end(), [](const QWidget* widget) {
-    return widget->isVisible() && widget->objectName() == "frmSolve";
+  return std::any_of(windows.begin(), windows.end(), [name](const QWidget* widget) {
+    return widget->isVisible() && widget->objectName() == name;
   });
 }
 
-// Only the Solve window lets the clock run.
-Complaint AboutRestingClock(const frmGame& window) {
+bool IsSolveWindowOpen() {
+  return IsOpen("frmSolve");
+}
+
+// Only the Solve window lets the clock run, and the command history while it takes moves back.
+Complaint AboutRestingClock(frmGame& window) {
   if (QApplication::activeModalWidget() == nullptr) return {};
-  if (window.IsClockEnabled() && !IsSolveWindowOpen()) return "the clock runs behind a dialog";
+  const bool mayRun = IsSolveWindowOpen() || (IsOpen("frmHistory") && window.Guard().IsWorking());
+  if (window.IsClockEnabled() && !mayRun) return "the clock runs behind a dialog";
   return {};
 }
 

@@ -167,14 +167,6 @@ TEST_F(CommandHistory, LetsNothingElseHappenWhileItSteps) {
   EXPECT_FALSE(window.IsWorking());
 }
 
-TEST_F(CommandHistory, StopsWhenTheMainWindowIsToBeClosed) {
-  Begin();
-  PlayTheTour(10);
-  window.onDoEvents = [&] { window.Guard().SetCloseRequested(true); };
-  StepThroughCommands(context, -5);
-  EXPECT_EQ(state.MoveCount, 9);
-}
-
 TEST_F(CommandHistory, AnnouncesTheEndThatARedoBrings) {
   Begin();
   windows.gameOverAnswer = GameOverAnswer::Undo;

@@ -47,8 +47,9 @@ CommandList CommandsOf(const GameState& state) {
 
 void StepThroughCommands(const CommandContext& context, int steps) {
   const WorkScope work(context.window.Guard());
+  const WatchedWork walk(context.pace, std::abs(steps));
   const int direction = steps < 0 ? -1 : 1;
-  for (int left = std::abs(steps); left > 0 && !context.window.Guard().IsCloseRequested(); --left) {
+  for (int left = std::abs(steps); left > 0; --left) {
     if (!Step(context, direction)) return;
     context.window.DoEvents();
   }

@@ -14,8 +14,7 @@ struct CommandList {
 CommandList CommandsOf(const GameState& state);
 
 // Undoes (steps below 0) or redoes so many moves; the board is seen stepping. Ends early when a
-// step has ended the game, when what the player decided then has replaced or changed it, or when
-// the main window is to be closed.
+// step has ended the game, or when what the player decided then has replaced or changed it.
 void StepThroughCommands(const CommandContext& context, int steps);
 
 void mnuEditHistory_Click(const CommandContext& context);

@@ -1,6 +1,5 @@
 #include "ui/windows/game/ScreenWindows.h"
 
-#include "ui/commands/CommandHistory.h"
 #include "ui/widgets/WindowPlacing.h"
 #include "ui/windows/animations/Canvas.h"
 #include "ui/windows/animations/frmAbout.h"
@@ -39,7 +38,6 @@ void ScreenWindows::ShowCommandHistory() {
   frmHistory window(mainWindow_.Context(), &mainWindow_);
   window.ListCommands();
   window.exec();
-  StepThroughCommands(mainWindow_.Context(), window.ChosenSteps());
 }
 
 void ScreenWindows::ShowWin() {

@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -119,7 +120,7 @@ int frmHistory::StepsToCurrentRow() const {
 }
 
 void frmHistory::lstMoves_Click() {
-  if (ListsMoves() || lstMoves_->currentRow() < 0) return;
+  if (ListsMoves() || stepping_ || lstMoves_->currentRow() < 0) return;
   const int steps = StepsToCurrentRow();
   const int row = lstMoves_->currentRow();
   const int nearest = row - steps + std::clamp(steps, -1, 1);
@@ -134,10 +135,17 @@ void frmHistory::lstMoves_Click() {
 void frmHistory::cmdOptionsOrUndo_Click() {
   if (ListsMoves()) {
     mnuEdit_->popup(cmdOptionsOrUndo_->mapToGlobal(QPoint(0, cmdOptionsOrUndo_->height())));
-  } else {
-    chosenSteps_ = StepsToCurrentRow();
-    accept();
+  } else if (!stepping_) {
+    GoToCurrentRow();
   }
+}
+
+void frmHistory::GoToCurrentRow() {
+  {
+    const QScopedValueRollback stepping(stepping_, true);
+    StepThroughCommands(context_, StepsToCurrentRow());
+  }
+  accept();
 }
 
 void frmHistory::cmdClose_Click() {
@@ -165,6 +173,7 @@ void frmHistory::PrintingFinished(bool accepted) {
 }
 
 void frmHistory::done(int result) {
+  if (stepping_) return context_.pace.Hurry();
   closing_ = printer_.IsPrinting();
   if (!closing_) QDialog::done(result);
 }

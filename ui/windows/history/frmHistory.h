@@ -24,10 +24,6 @@ class frmHistory : public QDialog {
   void ListMoves();
   void ListCommands();
 
-  // How many moves the player has decided to redo, or to undo (below 0). They are made when the
-  // window is closed.
-  int ChosenSteps() const { return chosenSteps_; }
-
   void lstMoves_Click();
   void cmdOptionsOrUndo_Click();
   void cmdClose_Click();
@@ -35,7 +31,7 @@ class frmHistory : public QDialog {
   void mnuEditExport_Click();
   void mnuEditPrint_Click();
 
-  // Waits for a document that is on its way to the printer.
+  // Waits for the steps being made, or for a document that is on its way to the printer.
   void done(int result) override;
 
  private:
@@ -45,6 +41,7 @@ class frmHistory : public QDialog {
   QStringList Lines() const;
   bool ListsMoves() const;
   int StepsToCurrentRow() const;
+  void GoToCurrentRow();
   void PrintingFinished(bool accepted);
 
   const CommandContext& context_;
@@ -53,6 +50,6 @@ class frmHistory : public QDialog {
   QPushButton* cmdOptionsOrUndo_ = nullptr;
   QPushButton* cmdClose_ = nullptr;
   QMenu* mnuEdit_ = nullptr;
-  int chosenSteps_ = 0;
+  bool stepping_ = false;
   bool closing_ = false;
 };
