@@ -1,6 +1,6 @@
-// The whole Solve against the reference: the real main window with the real Solve window over it,
-// every redraw painted, on the platform that QT_QPA_PLATFORM names. In turn in one process, medians
-// of five runs.
+// The whole Solve against the reference and against the bare search: the real main window with the
+// real Solve window over it, on the platform that QT_QPA_PLATFORM names. In turn in one process,
+// medians of five runs.
 
 #include <algorithm>
 #include <array>
@@ -14,91 +14,95 @@
 
 namespace {
 
-constexpr int Runs = 5;
+constexpr std::size_t Runs = 5;
+constexpr std::array<int, 6> Rates{1, 10, 100, 1'000, 10'000, 32'000};
 constexpr std::int64_t ReferenceEntries = 200'000'000;
-constexpr int SlowRefresh = 32'000;
-constexpr int UsualRefresh = 1'000;
 constexpr int SearchMilliseconds = 2'000;
-constexpr int BareRedraws = 100'000;
+constexpr int UsualRefresh = 1'000;
+constexpr int SlowRefresh = 32'000;
 constexpr int StopsMeasured = 25;
+constexpr double Million = 1e6;
 
 using Values = std::array<double, Runs>;
-
-// A redraw is without the search between two redraws.
-struct Cost {
-  Values entriesAtSlowRefresh{};  // for one of the reference
-  Values redraw{};                // in 1,000 entries of the reference
-};
 
 double Median(Values values) {
   std::sort(values.begin(), values.end());
   return values[Runs / 2];
 }
 
-double ReferenceSecondsAnEntry() {
-  ReferenceSearch reference;
-  const double begun = ProcessorSeconds();
-  const std::int64_t entries = reference.Run(ReferenceEntries);
-  return (ProcessorSeconds() - begun) / static_cast<double>(entries);
+// Entries a second, by the clock and by the processor time of the program.
+struct Speed {
+  double clock = 0;
+  double processor = 0;
+};
+
+template <typename Search>
+Speed SpeedOf(const Search& search) {
+  const double begun = SecondsOnTheClock();
+  const double processorBegun = ProcessorSeconds();
+  const auto entries = static_cast<double>(search());
+  return {entries / (SecondsOnTheClock() - begun), entries / (ProcessorSeconds() - processorBegun)};
 }
 
-// The bare search, paused as often as for these redraws.
-double SearchSecondsARedraw(int refreshRate) {
+std::int64_t RunReference() {
+  ReferenceSearch reference;
+  return reference.Run(ReferenceEntries);
+}
+
+// As far as the search with its windows came, since some parts of it are faster than others, and
+// paused as often.
+std::int64_t RunBareSearch(int refreshRate, std::int64_t entries) {
   GameState corner;
   corner.Cell(0, 0) = GameState::Visited;
   corner.MoveList[0] = {0, 0};
   corner.MoveCount = 1;
   TourSearch search(corner);
-  const double begun = ProcessorSeconds();
-  for (int redraw = 0; redraw < BareRedraws; ++redraw) search.Run(refreshRate + 1);
-  return (ProcessorSeconds() - begun) / BareRedraws;
+  while (search.Entries() < entries) search.Run(refreshRate + 1);
+  return search.Entries();
 }
 
-void PrintCost(const char* measure, const Cost& cost) {
-  std::printf("%s\n", measure);
-  std::printf("  entries at rate 32000 %6.2f times the reference's\n",
-              Median(cost.entriesAtSlowRefresh));
-  std::printf("  redraw at rate 1000   %6.2f times 1,000 entries of the reference\n",
-              Median(cost.redraw));
+Speed SpeedOf(const SearchReport& report) {
+  const auto entries = static_cast<double>(report.entries);
+  return {entries / report.seconds, entries / report.processorSeconds};
 }
 
-void PrintPaints(const SearchReport& report) {
-  const auto redraws = static_cast<double>(report.redraws);
-  std::printf("painted at a redraw   %.3f boards, %.2f cells, %.3f counts, %.3f squares\n",
-              static_cast<double>(report.boardPaints) / redraws,
-              static_cast<double>(report.cellsPainted) / redraws,
-              static_cast<double>(report.countPaints) / redraws,
-              static_cast<double>(report.squarePaints) / redraws);
-}
-
-void MeasureSpeed(SolveSession& session) {
-  Cost processor;
-  Cost clock;
-  SearchReport usual;
+void MeasureRate(SolveSession& session, int rate) {
+  struct {
+    Values speed{}, toReference{}, toBare{}, toReferenceByProcessor{}, toBareByProcessor{};
+  } runs;
   for (std::size_t run = 0; run < Runs; ++run) {
-    const double reference = ReferenceSecondsAnEntry();
-    const double search = SearchSecondsARedraw(UsualRefresh);
-    const SearchReport slow = session.Search(SlowRefresh, SearchMilliseconds);
-    usual = session.Search(UsualRefresh, SearchMilliseconds);
-    const auto enter = [&](Cost& cost, double SearchReport::*seconds) {
-      const double anEntry = slow.*seconds / static_cast<double>(slow.entries);
-      const double aRedraw = usual.*seconds / static_cast<double>(usual.redraws);
-      cost.entriesAtSlowRefresh[run] = reference / anEntry;
-      cost.redraw[run] = (aRedraw - search) / (reference * UsualRefresh);
-    };
-    enter(processor, &SearchReport::processorSeconds);
-    enter(clock, &SearchReport::seconds);
+    const Speed reference = SpeedOf(RunReference);
+    const SearchReport report = session.Search(rate, SearchMilliseconds);
+    const Speed whole = SpeedOf(report);
+    const Speed bare = SpeedOf([&] { return RunBareSearch(rate, report.entries); });
+    runs.speed[run] = whole.clock / Million;
+    runs.toReference[run] = whole.clock / reference.clock;
+    runs.toBare[run] = whole.clock / bare.clock;
+    runs.toReferenceByProcessor[run] = whole.processor / reference.processor;
+    runs.toBareByProcessor[run] = whole.processor / bare.processor;
   }
-  PrintCost("by the processor time of the program", processor);
-  PrintCost("by the clock", clock);
-  PrintPaints(usual);
+  std::printf("%5d  %8.2f million/s  %7.3f x recursion %6.3f x core   %7.3f x recursion %6.3f x core\n",
+              rate, Median(runs.speed), Median(runs.toReference), Median(runs.toBare),
+              Median(runs.toReferenceByProcessor), Median(runs.toBareByProcessor));
+  std::fflush(stdout);
 }
 
-void MeasureStops(SolveSession& session) {
+void MeasurePainting(SolveSession& session) {
+  const SearchReport report = session.Search(UsualRefresh, SearchMilliseconds);
+  const double pictures = static_cast<double>(report.boardPaints);
+  std::printf("at rate %d: %.1f boards a second, %.1f squares each; painting takes %.1f %% of the "
+              "time, %.2f ms a picture\n",
+              UsualRefresh, pictures / report.seconds,
+              static_cast<double>(report.cellsPainted) / pictures,
+              100 * report.paintingSeconds / report.seconds,
+              1'000 * report.paintingSeconds / pictures);
+}
+
+void MeasureStops(SolveSession& session, int rate) {
   std::array<double, StopsMeasured> milliseconds{};
-  for (double& taken : milliseconds) taken = session.MillisecondsToStop(SlowRefresh);
+  for (double& taken : milliseconds) taken = session.MillisecondsToStop(rate);
   std::sort(milliseconds.begin(), milliseconds.end());
-  std::printf("a Stop is obeyed after %.2f ms, at worst %.2f ms of %d\n",
+  std::printf("at rate %d a Stop is obeyed after %.2f ms, at worst %.2f ms of %d\n", rate,
               milliseconds[StopsMeasured / 2], milliseconds.back(), StopsMeasured);
 }
 
@@ -110,10 +114,12 @@ void MeasureMemory(SolveSession& session) {
 }  // namespace
 
 int main(int argumentCount, char* arguments[]) {
-  const QApplication application(argumentCount, arguments);
-  SolveSession session;
+  const PaintClock application(argumentCount, arguments);
+  SolveSession session(application);
   std::printf("on %s\n", qPrintable(QGuiApplication::platformName()));
-  MeasureSpeed(session);
-  MeasureStops(session);
+  std::printf(" rate                        by the clock                     by the processor\n");
+  for (const int rate : Rates) MeasureRate(session, rate);
+  MeasurePainting(session);
+  for (const int rate : {1, UsualRefresh, SlowRefresh}) MeasureStops(session, rate);
   if (QApplication::arguments().contains("--minute")) MeasureMemory(session);
 }

@@ -5,16 +5,15 @@
 #include <thread>
 #include <unistd.h>
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTimer>
 
 #include "ui/board/BoardView.h"
 #include "ui/commands/Solve.h"
+#include "ui/widgets/ValueLabel.h"
 
 namespace {
 
@@ -45,10 +44,6 @@ QPushButton& StartStop(QWidget& solve) {
   return *solve.findChild<QPushButton*>("cmdStartStop");
 }
 
-QLabel& Label(QWidget& solve, const char* name) {
-  return *solve.findChild<QLabel*>(name);
-}
-
 QEvent* MouseEvent(const QWidget& button, QEvent::Type type) {
   const QPointF middle = button.rect().center();
   const bool pressed = type == QEvent::MouseButtonPress;
@@ -66,7 +61,16 @@ double ProcessorSeconds() {
   return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
-SolveSession::SolveSession() : window_(globals_) {
+bool PaintClock::notify(QObject* receiver, QEvent* event) {
+  if (event->type() != QEvent::UpdateRequest) return QApplication::notify(receiver, event);
+  const double begun = SecondsOnTheClock();
+  const bool taken = QApplication::notify(receiver, event);
+  seconds_ += SecondsOnTheClock() - begun;
+  return taken;
+}
+
+SolveSession::SolveSession(const PaintClock& paintClock)
+    : paintClock_(paintClock), window_(globals_) {
   globals_.ProgramDirectory = directory_.path() + "/";
   for (const QString& picture : QDir(PICTURES_DIRECTORY).entryList(QDir::Files)) {
     QFile::copy(PICTURES_DIRECTORY + picture, directory_.filePath(picture));
@@ -88,26 +92,23 @@ void SolveSession::InSolveWindow(int refreshRate, const std::function<void(QWidg
 SearchReport SolveSession::Search(int refreshRate, int milliseconds) {
   SearchReport report;
   InSolveWindow(refreshRate, [&](QWidget& solve) {
-    QLabel& tested = Label(solve, "lblTestedValue");
+    const auto& tested = *solve.findChild<ValueLabel*>("lblTestedValue");
     const PaintCounter board(window_.Board());
-    const PaintCounter count(tested);
-    const PaintCounter square(Label(solve, "lblPositionValue"));
+    const double paintingBefore = paintClock_.Seconds();
     const std::uint64_t cellsBefore = window_.Board().PaintedCells();
     const double begun = SecondsOnTheClock();
     const double processorBegun = ProcessorSeconds();
     QTimer::singleShot(milliseconds, &solve, [&] {
-      report = {.entries = tested.text().toLongLong() + 1,
+      report = {.entries = tested.Value() + 1,
                 .seconds = SecondsOnTheClock() - begun,
                 .processorSeconds = ProcessorSeconds() - processorBegun,
+                .paintingSeconds = paintClock_.Seconds() - paintingBefore,
                 .boardPaints = board.Count(),
-                .cellsPainted = window_.Board().PaintedCells() - cellsBefore,
-                .countPaints = count.Count(),
-                .squarePaints = square.Count()};
+                .cellsPainted = window_.Board().PaintedCells() - cellsBefore};
       StartStop(solve).click();
     });
     StartStop(solve).click();
   });
-  report.redraws = report.entries / (refreshRate + 1);
   return report;
 }
 
