@@ -89,8 +89,21 @@ TEST_F(ChessboardFiles, ReloadAndRepaintWhenTheyAreOpened) {
   Begin();
   Open(FileWith("a.chessboard", CompleteLook));
   EXPECT_EQ(TakeLog(),
-            (Steps{"clock off", "open /looks/" + Filter, "LoadGameSetup", "HighlightSquare 0",
-                   "RepaintWholeBoard", "Form_Resize", "clock off"}));
+            (Steps{"clock off", "open /looks/" + Filter, "LoadPictures", "LoadGameSetup",
+                   "HighlightSquare 0", "RepaintWholeBoard", "Form_Resize", "clock off"}));
+}
+
+TEST_F(ChessboardFiles, AreNamedByTheSettingsOnlyAfterTheirPicturesHaveBeenRead) {
+  bool isStored = true;
+  QString imageToRead;
+  window.onLoadPictures = [&] {
+    isStored = QFile::exists(globals.IniFilePathName);
+    imageToRead = settings.KnightImage;
+  };
+  Open(FileWith("a.chessboard", CompleteLook));
+  EXPECT_FALSE(isStored);
+  EXPECT_EQ(imageToRead, "k.gif");
+  EXPECT_EQ(Stored().KnightImage, "k.gif");
 }
 
 TEST_F(ChessboardFiles, StoreTheWholeLookInTheSettingsFile) {

@@ -9,7 +9,7 @@
 #include "tests/ui/PreferencesDesk.h"
 #include "ui/board/BoardView.h"
 #include "ui/board/SystemColors.h"
-#include "ui/widgets/Pictures.h"
+#include "ui/widgets/pictures/PictureReader.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "ui/widgets/Pictures.h"
+#include "ui/widgets/pictures/PictureReader.h"
 
 namespace {
 

@@ -17,7 +17,13 @@ class RecordingMainWindow : public Recording<MainWindow> {
   std::function<void()> onLoadGameSetup;
   bool minimised = false;
   WindowPlacement placement;
+  // What happens while the pictures are read.
+  std::function<void()> onLoadPictures;
 
+  void LoadPictures() override {
+    log.push_back("LoadPictures");
+    if (onLoadPictures) onLoadPictures();
+  }
   void Form_Resize() override { log.push_back("Form_Resize"); }
   void CatchUpOnResize() override { log.push_back("CatchUpOnResize"); }
   void LoadGameSetup() override {

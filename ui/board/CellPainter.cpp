@@ -60,7 +60,9 @@ void CellPainter::DrawPicture(QPainter& painter, const BoardCell& cell, const QR
                                                 DevicePixels(cell.imageTop, devicePixelRatio));
     const QSize size(DevicePixels(cell.imageWidth, devicePixelRatio),
                      DevicePixels(cell.imageHeight, devicePixelRatio));
-    painter.drawImage(at, picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    // Scaled on the way: the picture may be many times larger than the square that it is cut to.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(QRect(at, size), picture);
   }
   painter.setClipping(false);
 }

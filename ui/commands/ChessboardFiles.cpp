@@ -28,6 +28,8 @@ void mnuEditChessboardOpen_Click(const CommandContext& context) {
   if (fileName.isEmpty()) return;
   directory = DirectoryOf(fileName);
   LoadChessboard(context.globals.IniFile.ReadIniFileValues(fileName), settings);
+  // Pictures that end the program must not be named by the settings that it starts with.
+  context.window.LoadPictures();
   StoreEverything(context);
   context.window.LoadGameSetup();
   context.game.RefreshHighlight();

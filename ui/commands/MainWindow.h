@@ -8,6 +8,8 @@ class MainWindow : public GameWindow {
  public:
   // Reads every setting afresh and shows what depends on it.
   virtual void LoadGameSetup() = 0;
+  // Reads the pictures of the look in the settings and shows them.
+  virtual void LoadPictures() = 0;
   // Lays the board out again after a change of the settings.
   virtual void Form_Resize() = 0;
   // While moves are applied a change of size rests; whoever ends that calls this.

@@ -10,8 +10,8 @@
 
 #include "app/Globals.h"
 #include "core/NumberText.h"
-#include "ui/widgets/Pictures.h"
 #include "ui/widgets/WindowPlacing.h"
+#include "ui/widgets/pictures/PictureReader.h"
 #include "ui/windows/animations/Canvas.h"
 
 namespace {

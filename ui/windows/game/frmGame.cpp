@@ -7,16 +7,17 @@
 #include <QScopedValueRollback>
 #include <QTimer>
 
+#include "storage/AttemptMark.h"
 #include "ui/application/AccessibleDialog.h"
 #include "ui/application/DoEvents.h"
 #include "ui/board/BoardView.h"
 #include "ui/commands/EndOfGame.h"
 #include "ui/commands/GameFiles.h"
 #include "ui/help/frmHelp.h"
-#include "ui/widgets/Pictures.h"
 
 namespace {
 
+constexpr QLatin1StringView ReadingMark(".gallopade-reading");
 constexpr int CloseRetryMilliseconds = 100;
 // Every dialog draws its icons anew, and the toolkit would keep ten megabytes of them.
 constexpr int PixmapCacheKilobytes = 1024;
@@ -25,6 +26,7 @@ constexpr int PixmapCacheKilobytes = 1024;
 
 frmGame::frmGame(Globals& globals, PicturePace::Clock clock)
     : globals_(globals),
+      pictures_(globals.ProgramDirectory),
       game_(state_, globals.settings, *this),
       tmrTime_([this] { game_.tmrTime_Timer(); }),
       pace_(std::move(clock)),
@@ -166,13 +168,19 @@ void frmGame::LoadGameSetup() {
   board_->SetCornerDistance(settings.CornerDistance);
   board_->SetBackground(settings.ChessboardBackgroundColor, settings.UseImages);
   if (!settings.UseImages) return;
-  const auto load = [this](const QString& name) {
-    return LoadPicture(name, globals_.ProgramDirectory);
-  };
-  board_->SetPictures(
-      {{load(settings.LightImage), load(settings.DarkImage), load(settings.VisitedImage),
-        load(settings.KnightImage), load(settings.HighlightImage)},
-       load(settings.ChessboardBackgroundImage)});
+  // Pictures that once ended the program would end it at every start.
+  const AttemptMark mark(globals_.ProgramDirectory + ReadingMark);
+  if (mark.WasCutShortBefore()) {
+    board_->SetPictures({});
+  } else {
+    LoadPictures();
+  }
+}
+
+void frmGame::LoadPictures() {
+  if (globals_.settings.UseImages) {
+    board_->SetPictures(LoadBoardPictures(globals_.settings, pictures_));
+  }
 }
 
 void frmGame::OpenGameFile(const QString& fileName) {

@@ -17,6 +17,7 @@
 #include "ui/application/LateAltKey.h"
 #include "ui/commands/CommandContext.h"
 #include "ui/commands/MainWindow.h"
+#include "ui/widgets/pictures/PictureReader.h"
 #include "ui/windows/game/GameMenu.h"
 #include "ui/windows/game/HalfSecondTimer.h"
 #include "ui/windows/game/ScreenDialogs.h"
@@ -71,6 +72,7 @@ class frmGame : public QMainWindow, public MainWindow {
 
   // --- what commands ask of it ---
   void LoadGameSetup() override;
+  void LoadPictures() override;
   void Form_Resize() override;
   void CatchUpOnResize() override;
   bool IsMinimised() const override;
@@ -98,6 +100,7 @@ class frmGame : public QMainWindow, public MainWindow {
   void ApplyPlacement(const WindowPlacement& placement);
 
   Globals& globals_;
+  PictureReader pictures_;
   GameState state_;
   Game game_;
   HalfSecondTimer tmrTime_;

@@ -18,7 +18,7 @@ PreviewImage::PreviewImage(QWidget* parent) : QWidget(parent) {
 
 void PreviewImage::SetPicture(const QImage& picture) {
   picture_ = picture;
-  scaled_ = QPixmap();
+  stretched_ = QPixmap();
   setVisible(HasPicture());
   update();
 }
@@ -28,19 +28,30 @@ void PreviewImage::SetPositioning(int imagePositioning) {
   update();
 }
 
-QSize PreviewImage::SizeOfPicture() const {
-  return positioning_ == 1 ? picture_.size() : size();
+void PreviewImage::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  if (positioning_ == 1) {
+    PaintInTheMiddle(painter);
+  } else {
+    PaintStretched(painter);
+  }
 }
 
-void PreviewImage::paintEvent(QPaintEvent*) {
-  const QSize devicePixels = SizeOfPicture() * devicePixelRatioF();
-  if (scaled_.size() != devicePixels) {
-    scaled_ = QPixmap::fromImage(
+// Only what is seen of it, which may be a corner of a large picture.
+void PreviewImage::PaintInTheMiddle(QPainter& painter) {
+  QRect place(QPoint(), picture_.size());
+  place.moveCenter(rect().center());
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(place, picture_);
+}
+
+void PreviewImage::PaintStretched(QPainter& painter) {
+  const QSize devicePixels = size() * devicePixelRatioF();
+  if (stretched_.size() != devicePixels) {
+    stretched_ = QPixmap::fromImage(
         picture_.scaled(devicePixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
   }
-  QRect place(QPoint(), SizeOfPicture());
-  place.moveCenter(rect().center());
-  QPainter(this).drawPixmap(place, scaled_);
+  painter.drawPixmap(rect(), stretched_);
 }
 
 Swatch::Swatch(QWidget* parent) : QWidget(parent), image_(new PreviewImage(this)) {

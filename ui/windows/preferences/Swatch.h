@@ -6,6 +6,8 @@
 
 #include "storage/BoardLook.h"
 
+class QPainter;
+
 // The picture of a preview. Without a picture it is not seen.
 class PreviewImage : public QWidget {
  public:
@@ -20,10 +22,11 @@ class PreviewImage : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QSize SizeOfPicture() const;
+  void PaintInTheMiddle(QPainter& painter);
+  void PaintStretched(QPainter& painter);
 
   QImage picture_;
-  QPixmap scaled_;  // for the present positioning and screen
+  QPixmap stretched_;  // for the present screen
   int positioning_ = 0;
 };
 

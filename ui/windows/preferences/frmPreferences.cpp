@@ -5,8 +5,8 @@
 
 #include "ui/board/SystemColors.h"
 #include "ui/commands/Preferences.h"
-#include "ui/widgets/Pictures.h"
 #include "ui/widgets/WindowPlacing.h"
+#include "ui/widgets/pictures/PictureReader.h"
 #include "ui/windows/preferences/ChooserButton.h"
 #include "ui/windows/preferences/Choosers.h"
 #include "ui/windows/preferences/PreviewBoard.h"
@@ -67,10 +67,11 @@ void frmPreferences::Form_Load() {
 }
 
 void frmPreferences::LoadAndShowImages(bool show) {
-  for (int owner = 0; owner < ChooserCount; ++owner) {
-    const QString name = show ? settings_.*ChooserRows[owner].image : QString();
-    choosers_[owner].swatch->Image().SetPicture(
-        LoadPicture(name, context_.globals.ProgramDirectory));
+  QStringList names;
+  for (const ChooserRow& row : ChooserRows) names << (show ? settings_.*row.image : QString());
+  const std::vector<QImage> images = PictureReader(context_.globals.ProgramDirectory).Read(names);
+  for (std::size_t owner = 0; owner < images.size(); ++owner) {
+    choosers_[owner].swatch->Image().SetPicture(images[owner]);
   }
   PositionImages();
 }

@@ -12,11 +12,12 @@ void CoverPicture::paintEvent(QPaintEvent*) {
   if (picture_.isNull()) return;
   const QSize devicePixels = size() * devicePixelRatioF();
   if (scaled_.size() != devicePixels) {
-    const QImage large =
-        picture_.scaled(devicePixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-    QRect middle(QPoint(), devicePixels);
-    middle.moveCenter(large.rect().center());
-    scaled_ = QPixmap::fromImage(large.copy(middle));
+    // Cut before it is scaled: a long and narrow picture would become enormous.
+    const QSize shown = devicePixels.scaled(picture_.size(), Qt::KeepAspectRatio);
+    QRect middle(QPoint(), shown.expandedTo(QSize(1, 1)));
+    middle.moveCenter(picture_.rect().center());
+    scaled_ = QPixmap::fromImage(picture_.copy(middle).scaled(devicePixels, Qt::IgnoreAspectRatio,
+                                                              Qt::SmoothTransformation));
   }
   QPainter(this).drawPixmap(rect(), scaled_);
 }

@@ -10,8 +10,8 @@
 #include <QVBoxLayout>
 
 #include "core/NumberText.h"
-#include "ui/widgets/Pictures.h"
 #include "ui/widgets/WindowPlacing.h"
+#include "ui/widgets/pictures/PictureReader.h"
 #include "ui/windows/scores/CoverPicture.h"
 #include "ui/windows/scores/NameBox.h"
 #include "ui/windows/scores/ScoreTable.h"
