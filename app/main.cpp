@@ -9,7 +9,7 @@ namespace {
 
 QIcon ProgramIcon() {
   QIcon icon;
-  for (const int side : {16, 24, 32, 48, 64, 128, 256}) {
+  for (const int side : {16, 24, 32, 48, 64, 128}) {
     icon.addFile(QString(":/icons/GallopadeNova-%1.png").arg(side), {side, side});
   }
   return icon;

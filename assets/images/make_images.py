@@ -15,7 +15,10 @@ from generator.gif import save_flat_gif, save_gif, shrink  # noqa: E402
 IMAGES = Path(__file__).resolve().parent
 ICONS = IMAGES.parent / "icons"
 LOOKS = IMAGES.parent / "looks"
-TILE_SIZE = 384
+# The window as designed is 640 pixels wide, a square of it 76; decoding takes its time with each pixel
+# at every start, and what is larger on a screen is wood, which may be soft.
+BOARD_SIZE = 640
+TILE_SIZE = 256
 
 
 def make_wooden_board():
@@ -24,7 +27,7 @@ def make_wooden_board():
                "Knight": tiles.knight, "Highlight": tiles.highlight}
     for name, draw in squares.items():
         save_gif(shrink(draw(2 * TILE_SIZE), 2), IMAGES / f"Wood {name}.gif")
-    save_gif(scenes.chessboard_frame(1080), IMAGES / "Wood Chessboard.gif", 128)
+    save_gif(shrink(scenes.chessboard_frame(2 * BOARD_SIZE), 2), IMAGES / "Wood Chessboard.gif")
     save_gif(scenes.scores(), IMAGES / "Scores.gif")
     save_gif(scenes.about(), IMAGES / "About.gif")
 
