@@ -1,8 +1,12 @@
 #include "ui/board/AccessibleBoard.h"
 
+#include <algorithm>
+
 #include <QApplication>
 
+#include "ui/board/AccessibleCursor.h"
 #include "ui/board/BoardView.h"
+#include "ui/board/BoardWords.h"
 
 namespace {
 
@@ -11,28 +15,36 @@ QAccessibleInterface* MakeAccessible(const QString& className, QObject* object) 
   return new AccessibleBoard(*static_cast<BoardView*>(object));
 }
 
-}  // namespace
-
-std::string_view DescribeSquare(const GameState& game, int square) {
-  const int x = ColumnOf(square);
-  const int y = RowOf(square);
-  if (!game.FirstMoveMade) return "can be reached";
-  if (x == game.KnightX && y == game.KnightY) return "knight";
-  if (game.Cell(x, y) == GameState::Visited) return "visited";
-  return IsKnightsMove(game.KnightX, game.KnightY, x, y) ? "can be reached" : "free";
+void Delete(QAccessible::Id id) {
+  if (id != 0) QAccessible::deleteAccessibleInterface(id);
 }
+
+}  // namespace
 
 AccessibleBoard::AccessibleBoard(BoardView& view)
     : QAccessibleWidget(&view, QAccessible::Table), view_(view) {}
 
 AccessibleBoard::~AccessibleBoard() {
-  for (const QAccessible::Id id : squares_) {
-    if (id != 0) QAccessible::deleteAccessibleInterface(id);
-  }
+  for (const QAccessible::Id id : squares_) Delete(id);
+  for (const QAccessible::Id id : cursors_) Delete(id);
 }
 
 void AccessibleBoard::Install() {
   QAccessible::installFactory(MakeAccessible);
+}
+
+AccessibleBoard& AccessibleBoard::Of(BoardView& view) {
+  return *static_cast<AccessibleBoard*>(QAccessible::queryAccessibleInterface(&view));
+}
+
+// Readers take two objects of one name at one place for the same, so every second one is smaller.
+void AccessibleBoard::LeadTo(const Sentence& sentence) {
+  cursorInset_ = 1 - cursorInset_;
+  auto* cursor = new AccessibleCursor(view_, cursorInset_, sentence);
+  Delete(cursors_[1]);
+  cursors_ = {QAccessible::registerAccessibleInterface(cursor), cursors_[0]};
+  QAccessibleEvent event(cursor, QAccessible::Focus);
+  QAccessible::updateAccessibility(&event);
 }
 
 void* AccessibleBoard::interface_cast(QAccessible::InterfaceType type) {
@@ -50,9 +62,13 @@ QAccessibleInterface* AccessibleBoard::child(int number) const {
   return QAccessible::accessibleInterface(id);
 }
 
+// The cursor counts as the square that it stands for.
 int AccessibleBoard::indexOfChild(const QAccessibleInterface* child) const {
-  const auto* square = dynamic_cast<const AccessibleSquare*>(child);
-  return square == nullptr ? -1 : ChildOfSquare(square->Index());
+  if (const auto* square = dynamic_cast<const AccessibleSquare*>(child)) {
+    return ChildOfSquare(square->Index());
+  }
+  const auto* cursor = dynamic_cast<const AccessibleCursor*>(child);
+  return cursor == nullptr ? -1 : ChildOfSquare(std::max(cursor->Square(), 0));
 }
 
 QAccessibleInterface* AccessibleBoard::childAt(int x, int y) const {
@@ -61,7 +77,7 @@ QAccessibleInterface* AccessibleBoard::childAt(int x, int y) const {
 }
 
 QAccessibleInterface* AccessibleBoard::focusChild() const {
-  const int square = view_.SquareOfInterest();
+  const int square = SquareOfInterest(view_.State());
   return view_.hasFocus() && square != -1 ? child(ChildOfSquare(square)) : nullptr;
 }
 
@@ -92,7 +108,7 @@ QAccessibleInterface* AccessibleSquare::parent() const {
 QAccessible::State AccessibleSquare::state() const {
   QAccessible::State state;
   state.focusable = true;
-  state.focused = view_.hasFocus() && view_.SquareOfInterest() == index_;
+  state.focused = view_.hasFocus() && SquareOfInterest(view_.State()) == index_;
   state.invisible = !view_.isVisible();
   return state;
 }
@@ -118,7 +134,7 @@ QString AccessibleSquare::text(QAccessible::Text text) const {
 void AccessibleSquare::doAction(const QString& actionName) {
   if (actionName != pressAction()) return;
   const auto press = [&view = view_, square = index_] {
-    if (QApplication::activeModalWidget() == nullptr) emit view.SquareClicked(square);
+    if (QApplication::activeModalWidget() == nullptr) view.Press(square);
   };
   QMetaObject::invokeMethod(&view_, press, Qt::QueuedConnection);
 }

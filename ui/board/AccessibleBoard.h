@@ -1,17 +1,13 @@
 #pragma once
 
 #include <array>
-#include <string_view>
 
 #include <QAccessibleWidget>
 
 #include "core/Square.h"
 
 class BoardView;
-struct GameState;
-
-// What there is to say about a square of the game, such as "visited".
-std::string_view DescribeSquare(const GameState& game, int square);
+struct Sentence;
 
 // The board as a screen reader meets it: a table of 8 by 8 cells, each named by its square,
 // described by its state and pressed like a click.
@@ -22,6 +18,9 @@ class AccessibleBoard : public QAccessibleWidget, public QAccessibleTableInterfa
 
   // Makes the toolkit ask for such an interface for every BoardView; once per program.
   static void Install();
+  static AccessibleBoard& Of(BoardView& view);
+  // Leads the screen reader to what the sentence is about, and has it read.
+  void LeadTo(const Sentence& sentence);
   // A child's number goes along the rows, as tables are read.
   static int ChildOfSquare(int index) { return RowOf(index) * BoardSide + ColumnOf(index); }
 
@@ -56,6 +55,9 @@ class AccessibleBoard : public QAccessibleWidget, public QAccessibleTableInterfa
  private:
   BoardView& view_;
   mutable std::array<QAccessible::Id, SquareCount> squares_{};  // 0: not asked for yet
+  // The present one and the one before it, about which a screen reader may still ask.
+  std::array<QAccessible::Id, 2> cursors_{};
+  int cursorInset_ = 0;
 };
 
 // One square of it.

@@ -3,27 +3,36 @@
 #include <array>
 #include <string_view>
 
-#include <QAccessible>
+#include <QTimer>
 
 #include "core/Square.h"
+#include "ui/board/BoardNews.h"
 
 class BoardView;
 
-// Tells screen readers what happens on the board: which squares are described anew, and which one
-// they are led to. Without a screen reader nothing is computed, and while the board has not got
-// the keyboard nothing is told; it is told when the keyboard comes back.
+// Tells a screen reader the news of the board: once for each command of the player, when it is
+// over, and when the keyboard comes back to the board. While the board has not got the keyboard
+// nothing is told, and without a screen reader nothing is computed.
 class BoardAnnouncer {
  public:
-  explicit BoardAnnouncer(BoardView& view) : view_(view) {}
+  // The view outlives the announcer.
+  explicit BoardAnnouncer(BoardView& view);
 
-  void Announce();
-  // Leads to the square of interest though it is the same as before.
-  void AnnounceAgain();
+  BoardNews& News() { return news_; }
+
+  // From the beginning of a command to its end, whatever it shows meanwhile.
+  void BeginCommand() { ++commands_; }
+  void EndCommand();
+  // The keyboard has come to the board.
+  void FocusIn();
 
  private:
-  void Send(QAccessible::Event type, int square);
+  void Tell();
+  void DescribeSquares();
 
   BoardView& view_;
+  BoardNews news_;
+  QTimer afterFocus_;
+  int commands_ = 0;
   std::array<std::string_view, SquareCount> descriptions_{};
-  int square_ = -1;
 };

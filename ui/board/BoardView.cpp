@@ -8,6 +8,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include "core/Keyboard.h"
 #include "ui/board/AccessibleBoard.h"
 #include "ui/board/BoardKeys.h"
 #include "ui/board/SystemColors.h"
@@ -18,6 +19,11 @@ QRect RectangleOf(const std::array<PixelSpan, BoardSide>& spans, int index) {
   const PixelSpan& across = spans[static_cast<std::size_t>(ColumnOf(index))];
   const PixelSpan& down = spans[static_cast<std::size_t>(RowOf(index))];
   return {across.begin, down.begin, across.end - across.begin, down.end - down.begin};
+}
+
+BoardNews::Wish WishOf(int keyCode) {
+  if (keyCode == KeyCode::Backspace) return BoardNews::Wish::TakeBack;
+  return IsClickKey(keyCode) ? BoardNews::Wish::Press : BoardNews::Wish::Step;
 }
 
 }  // namespace
@@ -71,13 +77,6 @@ void BoardView::PaintChanges() {
 
 void BoardView::ShowChanges() {
   if (model_.HasChanged()) picture_.Changed();
-  announcer_.Announce();
-}
-
-int BoardView::SquareOfInterest() const {
-  if (IsSquare(state_.CursorX, state_.CursorY)) return SquareIndex(state_.CursorX, state_.CursorY);
-  const bool hasKnight = IsSquare(state_.KnightX, state_.KnightY);
-  return hasKnight ? SquareIndex(state_.KnightX, state_.KnightY) : -1;
 }
 
 QRegion BoardView::RegionOf(BoardModel::CellSet cells) const {
@@ -165,7 +164,7 @@ void BoardView::resizeEvent(QResizeEvent* event) {
 
 void BoardView::focusInEvent(QFocusEvent* event) {
   QWidget::focusInEvent(event);
-  announcer_.AnnounceAgain();
+  announcer_.FocusIn();
 }
 
 void BoardView::changeEvent(QEvent* event) {
@@ -184,7 +183,7 @@ void BoardView::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   const int pressed = std::exchange(pressedSquare_, -1);
   const int released = SquareAtPosition(event->position());
-  if (released != -1 && released == pressed) emit SquareClicked(released);
+  if (released != -1 && released == pressed) Press(released);
 }
 
 void BoardView::mouseMoveEvent(QMouseEvent* event) {
@@ -197,6 +196,14 @@ void BoardView::keyPressEvent(QKeyEvent* event) {
   if (keyCode == 0) {
     QWidget::keyPressEvent(event);
   } else if (!event->isAutoRepeat() || !IsClickKey(keyCode)) {
+    announcer_.News().Expect(WishOf(keyCode));
     emit KeyPressed(keyCode);
+    announcer_.News().Expect(BoardNews::Wish::Nothing);
   }
+}
+
+void BoardView::Press(int square) {
+  announcer_.News().Expect(BoardNews::Wish::Press, square);
+  emit SquareClicked(square);
+  announcer_.News().Expect(BoardNews::Wish::Nothing);
 }

@@ -21,6 +21,7 @@ class BoardView : public QWidget {
   BoardView(const GameState& state, PicturePace& pace, QWidget* parent = nullptr);
 
   const GameState& State() const { return state_; }
+  BoardAnnouncer& Announcer() { return announcer_; }
   BoardModel& Model() { return model_; }
   const BoardModel& Model() const { return model_; }
 
@@ -39,9 +40,9 @@ class BoardView : public QWidget {
   QRect SquareRectangle(int index) const;
   // -1 outside the board.
   int SquareAtPosition(QPointF position) const;
-  // The square that a screen reader is led to: the cursor's, or without a cursor the knight's; -1
-  // when there is neither.
-  int SquareOfInterest() const;
+
+  // As a click does.
+  void Press(int square);
 
   // How many cells were painted since the program began.
   std::uint64_t PaintedCells() const { return paintedCells_; }

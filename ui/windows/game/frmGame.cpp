@@ -61,10 +61,12 @@ void frmGame::SetUp() {
 
 bool frmGame::Perform(const std::function<void()>& deed) {
   if (!PlayerMayAct()) return false;
+  board_->Announcer().BeginCommand();
   {
     const QScopedValueRollback performing(performing_, true);
     deed();
   }
+  board_->Announcer().EndCommand();
   if (guard_.IsCloseRequested()) CloseAsRequested();
   return true;
 }
