@@ -3,8 +3,8 @@
 #include <limits>
 
 #include "storage/FileReader.h"
+#include "storage/IniText.h"
 #include "storage/NumberParser.h"
-#include "storage/TextLines.h"
 
 namespace {
 

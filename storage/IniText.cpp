@@ -146,6 +146,15 @@ void PutIn(QByteArray& text, const IniEntry& entry, const QByteArray& lineEnd) {
 
 }  // namespace
 
+TextLine LineAt(QByteArrayView text, qsizetype begin) {
+  qsizetype end = begin;
+  while (end < text.size() && text[end] != '\r' && text[end] != '\n') ++end;
+  qsizetype next = end;
+  if (next < text.size() && text[next] == '\r') ++next;
+  if (next < text.size() && text[next] == '\n') ++next;
+  return {begin, end, next};
+}
+
 IniValues::IniValues(const QByteArray& text) : text_(text), lines_(LinesOf(text)) {}
 
 QString IniValues::Value(const QString& section, const QString& key) const {

@@ -3,9 +3,19 @@
 #include <vector>
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
-#include "storage/TextLines.h"
+// Where one line of a text lies: its content is [begin, end), its line end (CR LF, LF, CR, or none
+// at the end of the text) is [end, next).
+struct TextLine {
+  qsizetype begin;
+  qsizetype end;
+  qsizetype next;
+};
+
+// The line that begins at the given place of the text, which is not the text's end.
+TextLine LineAt(QByteArrayView text, qsizetype begin);
 
 // The dialect of all key/value files, over their bytes: "[section]" lines, "key=value" lines, ";"
 // comments. Names are compared without case, and the first match wins, of sections as of keys.

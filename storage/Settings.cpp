@@ -2,7 +2,6 @@
 
 #include <array>
 #include <charconv>
-#include <initializer_list>
 
 #include "storage/NumberParser.h"
 #include "storage/SettingsTable.h"
@@ -24,12 +23,17 @@ QString TextOfTwips(double twips) {
   return QString::fromLatin1(text.data(), end - text.data());
 }
 
-void Append(std::vector<IniEntry>& entries, const Settings& settings,
-            std::initializer_list<const char*> keys) {
-  for (const char* key : keys) {
-    const SettingRow& row = SettingOf(key);
-    entries.push_back({row.section, row.key, TextOf(row, settings)});
-  }
+// At exit the window's place is written after the settings up to this place.
+constexpr int LastDirectoryAtExit = 2;
+
+IniEntry EntryOf(const SettingRow& row, const Settings& settings) {
+  return {row.section, row.key, TextOf(row, settings)};
+}
+
+std::vector<IniEntry> EntriesWritten(int WritingPlaces::*occasion, const Settings& settings) {
+  std::vector<IniEntry> entries;
+  for (const SettingRow* row : RowsWritten(occasion)) entries.push_back(EntryOf(*row, settings));
+  return entries;
 }
 
 void AppendPlacement(std::vector<IniEntry>& entries, const WindowPlacement& placement,
@@ -66,54 +70,27 @@ WindowPlacement ReadWindowPlacement(const clsIniFile& iniFile, const QString& pa
 std::vector<IniEntry> ExitEntries(const Settings& settings, const WindowPlacement& placement,
                                   bool minimised) {
   std::vector<IniEntry> entries;
-  Append(entries, settings, {"Previous Directory", "Preferences Previous Directory"});
-  AppendPlacement(entries, placement, minimised);
-  Append(entries, settings, {"Show Time", "Show Score", "Solve Refresh"});
+  for (const SettingRow* row : RowsWritten(&WritingPlaces::exit)) {
+    entries.push_back(EntryOf(*row, settings));
+    if (row->written.exit == LastDirectoryAtExit) AppendPlacement(entries, placement, minimised);
+  }
   return entries;
 }
 
 std::vector<IniEntry> PreferencesEntries(const Settings& settings) {
-  std::vector<IniEntry> entries;
-  Append(entries, settings,
-         {"Starting Position",
-          "Starting X",
-          "Starting Y",
-          "Light Color",
-          "Dark Color",
-          "Visited Color",
-          "Knight Color",
-          "Light Image",
-          "Dark Image",
-          "Visited Image",
-          "Knight Image",
-          "Use Images",
-          "Image Positioning",
-          "Use Borders",
-          "Highlight Color",
-          "Highlight Image",
-          "Highlighting Method",
-          "Corner Distance",
-          "Chessboard Background Color",
-          "Chessboard Background Image",
-          "Show Solve Warnings",
-          "Preferences Previous Directory"});
-  return entries;
+  return EntriesWritten(&WritingPlaces::preferences, settings);
 }
 
 std::vector<IniEntry> SessionEntries(const Settings& settings) {
   std::vector<IniEntry> entries;
-  Append(entries, settings, {"Previous Directory", "Show Time", "Show Score", "Solve Refresh"});
+  for (const SettingRow* row : RowsWritten(&WritingPlaces::exit)) {
+    if (row->written.preferences == 0) entries.push_back(EntryOf(*row, settings));
+  }
   return entries;
 }
 
 std::vector<IniEntry> ChessboardEntries(const Settings& settings) {
-  std::vector<IniEntry> entries;
-  Append(entries, settings,
-         {"Light Color", "Dark Color", "Visited Color", "Knight Color", "Light Image", "Dark Image",
-          "Visited Image", "Knight Image", "Use Images", "Image Positioning", "Use Borders",
-          "Highlight Color", "Highlight Image", "Chessboard Background Color",
-          "Chessboard Background Image", "Corner Distance"});
-  return entries;
+  return EntriesWritten(&WritingPlaces::chessboard, settings);
 }
 
 ReplaySettings ReadReplaySettings(const clsIniFile& iniFile, const QString& pathName) {

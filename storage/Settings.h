@@ -11,6 +11,9 @@
 #include "storage/IniText.h"
 #include "storage/clsIniFile.h"
 
+inline constexpr int MaximumSolveRefresh = 32000;
+inline constexpr int MaximumCornerDistance = 1500;  // twips
+
 // All lasting preferences. The values given here are the defaults; those of the two directories are
 // the program directory.
 struct Settings : GameOptions, BoardLook {
@@ -56,8 +59,9 @@ std::vector<IniEntry> ExitEntries(const Settings& settings, const WindowPlacemen
 // What the preferences dialog decides.
 std::vector<IniEntry> PreferencesEntries(const Settings& settings);
 
-// What changes outside the preferences dialog, apart from the window's place: without it, reading
-// the settings afresh would lose what the player changed since the start.
+// What is written at exit and not with the preferences: what changes outside their dialog, apart
+// from the window's place. Without it, reading the settings afresh would lose what the player
+// changed since the start.
 std::vector<IniEntry> SessionEntries(const Settings& settings);
 
 // What a chessboard file holds.

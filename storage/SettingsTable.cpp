@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 #include "storage/NumberParser.h"
 
@@ -15,35 +14,60 @@ constexpr const char* Position = "Position";
 constexpr const char* Chessboard = "Chessboard";
 constexpr const char* Highlight = "Highlight";
 
+constexpr bool MayMiss = true;
+
+// Section, key, kind, field, and the places at exit, with the preferences and in a chessboard file.
 constexpr std::array<SettingRow, 28> Table = {{
-    {General, "Previous Directory", Text, &Settings::PreviousDirectory},
-    {General, "Preferences Previous Directory", Text, &Settings::PreferencesPreviousDirectory},
+    {General, "Previous Directory", Text, &Settings::PreviousDirectory, {1, 0, 0}},
+    {General,
+     "Preferences Previous Directory",
+     Text,
+     &Settings::PreferencesPreviousDirectory,
+     {2, 22, 0}},
     {General, "Scores Image", Text, &Settings::ScoresImage},
     {General, "About Image", Text, &Settings::AboutImage},
-    {General, "Show Time", NumberBoolean, &Settings::ShowTime},
-    {General, "Show Score", NumberBoolean, &Settings::ShowScore},
-    {General, "Show Solve Warnings", NumberBoolean, &Settings::ShowSolveWarnings},
-    {General, "Solve Refresh", Number, &Settings::SolveRefreshRate, 1, 32000},
-    {Chessboard, "Corner Distance", Number, &Settings::CornerDistance, 0, 1500},
-    {Position, "Starting Position", Number, &Settings::StartingPosition},
-    {Position, "Starting X", Number, &Settings::StartingX},
-    {Position, "Starting Y", Number, &Settings::StartingY},
-    {Chessboard, "Light Color", Number, &Settings::LightColor},
-    {Chessboard, "Dark Color", Number, &Settings::DarkColor},
-    {Chessboard, "Visited Color", Number, &Settings::VisitedColor},
-    {Chessboard, "Knight Color", Number, &Settings::KnightColor},
-    {Chessboard, "Light Image", Text, &Settings::LightImage},
-    {Chessboard, "Dark Image", Text, &Settings::DarkImage},
-    {Chessboard, "Visited Image", Text, &Settings::VisitedImage},
-    {Chessboard, "Knight Image", Text, &Settings::KnightImage},
-    {Highlight, "Highlight Image", Text, &Settings::HighlightImage},
-    {Chessboard, "Chessboard Background Color", Number, &Settings::ChessboardBackgroundColor},
-    {Chessboard, "Chessboard Background Image", Text, &Settings::ChessboardBackgroundImage},
-    {Chessboard, "Use Images", ExactBoolean, &Settings::UseImages},
-    {Chessboard, "Use Borders", ExactBoolean, &Settings::UseBorders},
-    {Chessboard, "Image Positioning", Number, &Settings::ImagePositioning},
-    {Highlight, "Highlight Color", Number, &Settings::HighlightColor},
-    {Highlight, "Highlighting Method", Number, &Settings::HighlightingMethod},
+    {General, "Show Time", NumberBoolean, &Settings::ShowTime, {3, 0, 0}},
+    {General, "Show Score", NumberBoolean, &Settings::ShowScore, {4, 0, 0}},
+    {General, "Show Solve Warnings", NumberBoolean, &Settings::ShowSolveWarnings, {0, 21, 0}},
+    {General,
+     "Solve Refresh",
+     Number,
+     &Settings::SolveRefreshRate,
+     {5, 0, 0},
+     {1, MaximumSolveRefresh}},
+    {Chessboard,
+     "Corner Distance",
+     Number,
+     &Settings::CornerDistance,
+     {0, 18, 16},
+     {0, MaximumCornerDistance}},
+    {Position, "Starting Position", Number, &Settings::StartingPosition, {0, 1, 0}},
+    {Position, "Starting X", Number, &Settings::StartingX, {0, 2, 0}},
+    {Position, "Starting Y", Number, &Settings::StartingY, {0, 3, 0}},
+    {Chessboard, "Light Color", Number, &Settings::LightColor, {0, 4, 1}},
+    {Chessboard, "Dark Color", Number, &Settings::DarkColor, {0, 5, 2}},
+    {Chessboard, "Visited Color", Number, &Settings::VisitedColor, {0, 6, 3}},
+    {Chessboard, "Knight Color", Number, &Settings::KnightColor, {0, 7, 4}},
+    {Chessboard, "Light Image", Text, &Settings::LightImage, {0, 8, 5}},
+    {Chessboard, "Dark Image", Text, &Settings::DarkImage, {0, 9, 6}},
+    {Chessboard, "Visited Image", Text, &Settings::VisitedImage, {0, 10, 7}},
+    {Chessboard, "Knight Image", Text, &Settings::KnightImage, {0, 11, 8}},
+    {Highlight, "Highlight Image", Text, &Settings::HighlightImage, {0, 16, 13}},
+    {Chessboard,
+     "Chessboard Background Color",
+     Number,
+     &Settings::ChessboardBackgroundColor,
+     {0, 19, 14}},
+    {Chessboard,
+     "Chessboard Background Image",
+     Text,
+     &Settings::ChessboardBackgroundImage,
+     {0, 20, 15}},
+    {Chessboard, "Use Images", ExactBoolean, &Settings::UseImages, {0, 12, 9, MayMiss}},
+    {Chessboard, "Use Borders", ExactBoolean, &Settings::UseBorders, {0, 14, 11, MayMiss}},
+    {Chessboard, "Image Positioning", Number, &Settings::ImagePositioning, {0, 13, 10, MayMiss}},
+    {Highlight, "Highlight Color", Number, &Settings::HighlightColor, {0, 15, 12}},
+    {Highlight, "Highlighting Method", Number, &Settings::HighlightingMethod, {0, 17, 0}},
 }};
 
 // One function for each type that a field can have.
@@ -64,7 +88,9 @@ struct FieldReader {
     const std::int32_t number = LenientInt32(text);
     if (IsInRange(number)) settings.*field = number;
   }
-  bool IsInRange(int number) const { return number >= row.lowest && number <= row.highest; }
+  bool IsInRange(int number) const {
+    return number >= row.range.lowest && number <= row.range.highest;
+  }
 };
 
 struct FieldWriter {
@@ -91,9 +117,15 @@ std::span<const SettingRow> SettingsTable() {
   return Table;
 }
 
-const SettingRow& SettingOf(const char* key) {
-  return *std::find_if(Table.begin(), Table.end(),
-                       [key](const SettingRow& row) { return std::strcmp(row.key, key) == 0; });
+std::vector<const SettingRow*> RowsWritten(int WritingPlaces::*occasion) {
+  std::vector<const SettingRow*> rows;
+  for (const SettingRow& row : Table) {
+    if (row.written.*occasion > 0) rows.push_back(&row);
+  }
+  std::sort(rows.begin(), rows.end(), [occasion](const SettingRow* one, const SettingRow* other) {
+    return one->written.*occasion < other->written.*occasion;
+  });
+  return rows;
 }
 
 void SetFromText(const SettingRow& row, const QString& text, const QString& programDirectory,

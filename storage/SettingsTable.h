@@ -4,6 +4,7 @@
 #include <limits>
 #include <span>
 #include <variant>
+#include <vector>
 
 #include <QString>
 
@@ -13,26 +14,43 @@ enum class SettingKind {
   Text,           // any text
   NumberBoolean,  // true for every number but 0
   ExactBoolean,   // true for the text "1" only
-  Number,         // an integer of the field's size; the default outside lowest..highest
+  Number,         // an integer of the field's size
 };
 
 using SettingField =
     std::variant<QString Settings::*, bool Settings::*, std::int16_t Settings::*, int Settings::*>;
+
+// Accepted numbers; any other becomes the default.
+struct NumberRange {
+  int lowest = std::numeric_limits<int>::min();
+  int highest = std::numeric_limits<int>::max();
+};
+
+// When a setting is written: its place among all that are written on an occasion, from 1 on, or 0
+// when it is not written then.
+struct WritingPlaces {
+  int exit = 0;
+  int preferences = 0;
+  int chessboard = 0;
+  // A chessboard file without it leaves it as it is; in one with it "1" is the only other choice
+  // than 0.
+  bool mayMissInChessboards = false;
+};
 
 struct SettingRow {
   const char* section;
   const char* key;
   SettingKind kind;
   SettingField field;
-  int lowest = std::numeric_limits<int>::min();
-  int highest = std::numeric_limits<int>::max();
+  WritingPlaces written = {};
+  NumberRange range = {};
 };
 
 // Every setting that Settings holds, in the order in which all are read.
 std::span<const SettingRow> SettingsTable();
 
-// The row of a key that the table has; no key is in two sections.
-const SettingRow& SettingOf(const char* key);
+// The rows that are written on an occasion, in their order.
+std::vector<const SettingRow*> RowsWritten(int WritingPlaces::*occasion);
 
 // Gives the field what the text says; an empty text means the default.
 void SetFromText(const SettingRow& row, const QString& text, const QString& programDirectory,

@@ -9,7 +9,6 @@
 
 inline constexpr double MinimumInnerHeightTwips = 2800.0;
 inline constexpr double DesignedInnerSideTwips = 9600.0;
-inline constexpr int MaximumCornerDistanceTwips = 1500;
 inline constexpr double BorderTwips = TwipsPerPixel;  // a single-line border, on each side
 
 struct BoardLayout {

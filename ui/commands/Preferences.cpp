@@ -5,8 +5,9 @@
 #include <QFile>
 
 #include "core/NumberText.h"
+#include "core/Twips.h"
 #include "storage/NumberParser.h"
-#include "ui/board/BoardLayout.h"
+#include "storage/OwnFiles.h"
 
 namespace {
 
@@ -16,7 +17,7 @@ QString PixelText(int twips) {
 
 QString FrameWidthPrompt() {
   return "Enter the frame width (in pixels).\nValid numbers are between 0 and" +
-         PixelText(MaximumCornerDistanceTwips) + "\nThe default value is" +
+         PixelText(MaximumCornerDistance) + "\nThe default value is" +
          PixelText(Settings().CornerDistance) + ".";
 }
 
@@ -51,7 +52,7 @@ bool RestoreDefaultConfiguration(const CommandContext& context) {
 void ClearScoreLists(const CommandContext& context) {
   if (context.window.Ask("Gallopade Nova", "Are you sure you want to clear the score lists?",
                          DefaultAnswer::No)) {
-    QFile::remove(context.globals.ProgramDirectory + "Scores.dat");
+    QFile::remove(context.globals.ProgramDirectory + ScoreFileName);
   }
 }
 
@@ -62,7 +63,7 @@ void AskForFrameWidth(const CommandContext& context) {
     const auto answer = context.dialogs.InputBox("Frame Width", FrameWidthPrompt(), width);
     if (!answer || answer->isEmpty()) return;
     const double twips = std::round(TwipsFromPixels(LenientNumber(*answer)));
-    if (twips >= 0 && twips <= MaximumCornerDistanceTwips) {
+    if (twips >= 0 && twips <= MaximumCornerDistance) {
       cornerDistance = static_cast<int>(twips);
       return;
     }

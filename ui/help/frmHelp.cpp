@@ -12,13 +12,13 @@
 #include <QToolBar>
 #include <QWindow>
 
+#include "storage/OwnFiles.h"
 #include "ui/help/HelpIndex.h"
 #include "ui/help/HelpPage.h"
 #include "ui/help/HelpSearch.h"
 
 namespace {
 
-constexpr const char* HelpFileName = "GallopadeNova.hlp";
 constexpr const char* FirstPage = "welcome.html";
 
 QSize DesignedSize(const QWidget& window) {

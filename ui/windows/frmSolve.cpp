@@ -15,7 +15,6 @@
 
 namespace {
 
-constexpr int SlowestRefresh = 32000;
 constexpr int RefreshSmallStep = 100;
 constexpr int RefreshLargeStep = 1000;
 
@@ -61,7 +60,7 @@ QGroupBox* frmSolve::AddRefreshFrame() {
   hsclRefreshRateValue_ = new ScrollBar(frame);
   hsclRefreshRateValue_->setObjectName("hsclRefreshRateValue");
   hsclRefreshRateValue_->setAccessibleName("Refresh");
-  hsclRefreshRateValue_->setRange(1, SlowestRefresh);
+  hsclRefreshRateValue_->setRange(1, MaximumSolveRefresh);
   hsclRefreshRateValue_->setSingleStep(RefreshSmallStep);
   hsclRefreshRateValue_->setPageStep(RefreshLargeStep);
   hsclRefreshRateValue_->setValue(context_.globals.settings.SolveRefreshRate);

@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QScreen>
 
+#include "storage/OwnFiles.h"
 #include "ui/board/BoardLayout.h"
 #include "ui/board/BoardView.h"
 #include "ui/widgets/WindowPlacing.h"
@@ -55,7 +56,7 @@ void frmGame::CreateBoard() {
 }
 
 void frmGame::OpenSettingsAndPlaceWindow() {
-  globals_.IniFilePathName = globals_.ProgramDirectory + "GallopadeNova.ini";
+  globals_.IniFilePathName = globals_.ProgramDirectory + SettingsFileName;
   ApplyPlacement(ReadWindowPlacement(globals_.IniFile, globals_.IniFilePathName));
 }
 

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "core/NumberText.h"
+#include "storage/OwnFiles.h"
 #include "ui/widgets/WindowPlacing.h"
 #include "ui/widgets/pictures/PictureReader.h"
 #include "ui/windows/scores/CoverPicture.h"
@@ -53,7 +54,7 @@ double ScaleFor(const QSize& table) {
 frmScores::frmScores(const CommandContext& context, QWidget* mainWindow)
     : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
       context_(context),
-      pathName_(context.globals.ProgramDirectory + "Scores.dat") {
+      pathName_(context.globals.ProgramDirectory + ScoreFileName) {
   setObjectName("frmScores");
   auto* layout = new QVBoxLayout(this);
   layout->setSizeConstraint(QLayout::SetFixedSize);

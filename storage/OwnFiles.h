@@ -1,0 +1,6 @@
+#pragma once
+
+// The files that lie in the program's own directory.
+inline constexpr const char* SettingsFileName = "GallopadeNova.ini";
+inline constexpr const char* ScoreFileName = "Scores.dat";
+inline constexpr const char* HelpFileName = "GallopadeNova.hlp";
