@@ -3,6 +3,11 @@
 #include <QCoreApplication>
 #include <QVersionNumber>
 
+void FinishSaving(Globals& globals) {
+  globals.ScoreFile.Save(Wait::AsLongAsItTakes);
+  globals.IniFile.Save(Wait::AMoment);
+}
+
 Version ProgramVersion() {
   const auto number = QVersionNumber::fromString(QCoreApplication::applicationVersion());
   return {number.majorVersion(), number.minorVersion(), number.microVersion()};

@@ -2,16 +2,20 @@
 
 #include <QString>
 
+#include "storage/KeptFile.h"
 #include "storage/Settings.h"
-#include "storage/clsIniFile.h"
 
 // The program-wide state that is not the game's: made at start-up, passed on by reference.
 struct Globals {
   QString ProgramDirectory;  // the executable's, ends in "/"
-  clsIniFile IniFile;
-  QString IniFilePathName;
+  KeptFile IniFile;
+  KeptFile ScoreFile;
   Settings settings;
 };
+
+// Saves what could not be saved before: for the end of the program, when no window is open any
+// more. A score waits for as long as another copy of the program keeps its file to itself.
+void FinishSaving(Globals& globals);
 
 // The program's version in numbers; what is missing in the application's version text counts as 0.
 struct Version {

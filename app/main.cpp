@@ -34,5 +34,7 @@ int main(int argumentCount, char* arguments[]) {
   globals.ProgramDirectory = QCoreApplication::applicationDirPath() + "/";
   frmGame window(globals);
   window.Form_Load(CommandLine(QApplication::arguments()));
-  return QApplication::exec();
+  const int result = QApplication::exec();
+  FinishSaving(globals);
+  return result;
 }

@@ -13,4 +13,5 @@
 void LoadChessboard(const IniValues& values, Settings& settings);
 
 // Writes the look; nothing of a file that was there before survives, unless writing fails.
-std::optional<ProgramError> SaveChessboard(const QString& pathName, const Settings& settings);
+[[nodiscard]] std::optional<ProgramError> SaveChessboard(const QString& pathName,
+                                                         const Settings& settings);

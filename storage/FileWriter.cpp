@@ -1,51 +1,78 @@
 #include "storage/FileWriter.h"
 
-#include <cerrno>
+#include <fcntl.h>
 
-#include <QDir>
-#include <QFileInfo>
-
+#include "storage/FileRights.h"
 #include "storage/SavingFile.h"
+#include "storage/WrittenFile.h"
 
 namespace {
 
-constexpr int LongestChainOfLinks = 40;
+constexpr mode_t ModeOfNewFiles = 0666;  // less the user's mask
+constexpr mode_t ModeUntilRightsAreKnown = 0600;
 
-std::optional<ProgramError> WhyNotWritable(const QString& fileName) {
-  if (fileName.isEmpty() || fileName.contains(QChar::Null)) return ProgramError::BadFileName;
-  const QFileInfo file(fileName);
-  if (!file.dir().exists()) return ProgramError::PathNotFound;
-  if (file.isSymLink()) return ProgramError::PathFileAccess;
-  if (!file.exists()) return std::nullopt;
-  if (!file.isFile()) return ProgramError::PathFileAccess;
-  if (!file.isWritable()) return ProgramError::PermissionDenied;
-  return std::nullopt;
+std::optional<ProgramError> Error() {
+  return ErrorFromSystem(errno, ProgramError::PathNotFound);
+}
+
+// The folder takes no new file, or does not let the old one go; the old one may take new content.
+bool IsRefusedByFolder() {
+  return errno == EACCES || errno == EPERM || errno == EROFS || errno == EBUSY;
+}
+
+enum class Replaced { Yes, No, NotInThisWay };
+
+Replaced ReplaceBy(SavingFile& file, const OpenFolder& folder, const WrittenFile& old,
+                   const QByteArray& name, const QByteArray& bytes) {
+  if (!file.IsOpen()) return IsRefusedByFolder() ? Replaced::NotInThisWay : Replaced::No;
+  if (!file.Write(bytes)) return Replaced::No;
+  if (old.IsThere() && (old.HasOtherNames() || !CopyRights(old.Number(), file.Number()))) {
+    return Replaced::NotInThisWay;
+  }
+  if (file.TakeNameOf(name)) return folder.Sync() ? Replaced::Yes : Replaced::No;
+  return IsRefusedByFolder() ? Replaced::NotInThisWay : Replaced::No;
+}
+
+std::optional<ProgramError> Empty(const OpenFolder& folder, const QByteArray& name) {
+  const WrittenFile file(folder, name);
+  if (file.Error() || !file.IsThere()) return file.Error();
+  if (file.Overwrite({})) return std::nullopt;
+  return Error();
 }
 
 }  // namespace
 
-QString FileBehindLinks(const QString& pathName) {
-  if (pathName.contains(QChar::Null)) return pathName;
-  QFileInfo file(pathName);
-  for (int links = 0; links < LongestChainOfLinks && file.isSymLink(); ++links) {
-    file.setFile(file.symLinkTarget());
-  }
-  return file.filePath();
-}
-
-std::optional<ProgramError> ReplaceFile(const FolderLock& lock, const QString& fileName,
+std::optional<ProgramError> ReplaceFile(const OpenFolder& folder, const QByteArray& name,
                                         const QByteArray& bytes) {
-  if (const auto error = WhyNotWritable(fileName)) return error;
-  const QString folder = QFileInfo(fileName).path();
-  if (lock.IsHeld()) RemoveLeftSavingFiles(folder);
-  SavingFile file(folder);
-  if (file.IsOpen() && file.Write(bytes) && file.TakePlaceOf(fileName)) return std::nullopt;
-  return ErrorFromSystem(errno, ProgramError::PathNotFound);
+  const WithoutSizeSignal quiet;
+  const WrittenFile old(folder, name);
+  if (old.Error()) return old.Error();
+  RemoveLeftSavingFiles(folder, old.IsThere() ? old.Owner() : geteuid());
+  SavingFile file(folder, old.IsThere() ? ModeUntilRightsAreKnown : ModeOfNewFiles);
+  const Replaced replaced = ReplaceBy(file, folder, old, name, bytes);
+  if (replaced == Replaced::Yes) return std::nullopt;
+  if (replaced == Replaced::NotInThisWay && old.IsThere() && old.Overwrite(bytes)) {
+    return std::nullopt;
+  }
+  return Error();
 }
 
 std::optional<ProgramError> WriteFile(const QString& pathName, const QByteArray& bytes) {
-  const QString fileName = FileBehindLinks(pathName);
-  FolderLock lock(QFileInfo(fileName).path());
-  lock.Take();
-  return ReplaceFile(lock, fileName, bytes);
+  if (IsNoPath(pathName)) return ProgramError::BadFileName;
+  const FilePlace place = PlaceBehindLinks(pathName);
+  const OpenFolder folder(place.folder);
+  if (!folder.IsOpen()) return Error();
+  return ReplaceFile(folder, place.name, bytes);
+}
+
+std::optional<ProgramError> ClearFile(const OpenFolder& folder, const FilePlace& place) {
+  const char* name = place.name.constData();
+  struct stat status {};
+  if (fstatat(folder.Number(), name, &status, AT_SYMLINK_NOFOLLOW) == 0) {
+    if (place.isLinked || status.st_nlink > 1) return Empty(folder, place.name);
+    if (unlinkat(folder.Number(), name, 0) == 0 && folder.Sync()) return std::nullopt;
+    if (IsRefusedByFolder()) return Empty(folder, place.name);
+  }
+  if (errno == ENOENT) return std::nullopt;
+  return Error();
 }

@@ -1,5 +1,6 @@
 #include "storage/GameFile.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "storage/FileReader.h"
@@ -13,7 +14,7 @@ constexpr qint64 LongestGame = qint64{64} * 1024;
 
 class LineReader {
  public:
-  explicit LineReader(QByteArrayView text) : text_(text) {}
+  explicit LineReader(QByteArrayView text) : text_(text), next_(BeginOf(text)) {}
 
   // Nothing at the end of the text.
   std::optional<QByteArrayView> Next() {
@@ -25,7 +26,7 @@ class LineReader {
 
  private:
   QByteArrayView text_;
-  qsizetype next_ = 0;
+  qsizetype next_;
 };
 
 void Fail(GameFile& file, ProgramError error) {
@@ -40,10 +41,14 @@ void ReadClock(const std::optional<QByteArrayView>& line, GameFile& file) {
   if (!line) return Fail(file, ProgramError::InputPastEnd);
   using Limits = std::numeric_limits<std::int32_t>;
   const std::int64_t number = NumberOf(*line);
-  // The lowest number would overflow as well: one tick is taken off before the clock ticks once.
-  if (number <= Limits::min() || number > Limits::max()) return Fail(file, ProgramError::Overflow);
+  // One tick is taken off before the clock ticks once, and it is that number which must fit: the
+  // lowest does not, and one beyond the highest does, at which the clock stands still.
+  if (number <= Limits::min() || number - 1 > Limits::max()) {
+    return Fail(file, ProgramError::Overflow);
+  }
   file.hasClock = true;
-  file.elapsedHalfSeconds = static_cast<std::int32_t>(number);
+  file.elapsedHalfSeconds =
+      static_cast<std::int32_t>(std::min<std::int64_t>(number, Limits::max()));
   file.noScoreGame = line->endsWith('-');
 }
 

@@ -56,7 +56,7 @@ IniLine LineFrom(QByteArrayView content, const TextLine& place) {
 // The lines that are not blank.
 std::vector<IniLine> LinesOf(const QByteArray& text) {
   std::vector<IniLine> lines;
-  TextLine line{0, 0, text.startsWith(ByteOrderMark) ? ByteOrderMark.size() : 0};
+  TextLine line{0, 0, BeginOf(text)};
   while (line.next < text.size()) {
     line = LineAt(text, line.next);
     const auto content = Trimmed(QByteArrayView(text).sliced(line.begin, line.end - line.begin));
@@ -145,6 +145,10 @@ void PutIn(QByteArray& text, const IniEntry& entry, const QByteArray& lineEnd) {
 }
 
 }  // namespace
+
+qsizetype BeginOf(QByteArrayView text) {
+  return text.startsWith(ByteOrderMark) ? ByteOrderMark.size() : 0;
+}
 
 TextLine LineAt(QByteArrayView text, qsizetype begin) {
   qsizetype end = begin;

@@ -14,6 +14,9 @@ struct TextLine {
   qsizetype next;
 };
 
+// Where a text begins, after the byte order mark that some editors put there.
+qsizetype BeginOf(QByteArrayView text);
+
 // The line that begins at the given place of the text, which is not the text's end.
 TextLine LineAt(QByteArrayView text, qsizetype begin);
 

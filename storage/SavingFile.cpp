@@ -1,98 +1,116 @@
 #include "storage/SavingFile.h"
 
-#include <cerrno>
+#include <algorithm>
+#include <cstdint>
 #include <cstdio>
+#include <dirent.h>
 #include <fcntl.h>
+#include <memory>
 #include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <QDir>
+#include <sys/random.h>
+#include <vector>
 
 namespace {
 
-constexpr QLatin1StringView Prefix(".gallopade-saving-");
-constexpr mode_t ModeOfNewFiles = 0666;  // less the user's mask
-constexpr mode_t PermissionBits = 07777;
+constexpr QByteArrayView Prefix = ".gallopade-saving-";
+constexpr int DigitsOfName = 16;
+// Of the names that are tried, none is in use unless someone can foresee them after all.
+constexpr int LongestSearch = 16;
 
-// Again as long as nothing but a signal came in between.
-template <typename Call>
-auto Persist(const Call& call) {
-  auto result = call();
-  while (result == -1 && errno == EINTR) result = call();
-  return result;
+bool HasName(int file) {
+  struct stat status {};
+  return Persist([&] { return fstat(file, &status); }) == 0 && status.st_nlink > 0;
 }
 
-// Sets only what differs, since some disks know no permissions but their own.
-bool CopyMode(const QByteArray& from, int descriptor) {
-  struct stat old {};
-  if (Persist([&] { return stat(from.constData(), &old); }) != 0) return errno == ENOENT;
-  struct stat now {};
-  if (Persist([&] { return fstat(descriptor, &now); }) != 0) return false;
-  if (old.st_mode == now.st_mode) return true;
-  return Persist([&] { return fchmod(descriptor, old.st_mode & PermissionBits); }) == 0;
+// Who finds a saving file without its lock takes it for left. So it counts only when it is locked
+// and still has its name; on disks that know no locks, nobody removes it.
+bool IsKept(int file) {
+  const bool isLocked = Persist([file] { return flock(file, LOCK_EX | LOCK_NB); }) == 0;
+  return isLocked ? HasName(file) : errno != EWOULDBLOCK;
 }
 
-bool IsOurs(const QString& name) {
-  bool endsInNumber = false;
-  static_cast<void>(QStringView(name).mid(Prefix.size()).toUInt(&endsInNumber));
-  return endsInNumber;
+QByteArray ChanceName() {
+  std::uint64_t number = 0;
+  if (getrandom(&number, sizeof number, 0) != sizeof number) return {};
+  return Prefix.toByteArray() +
+         QByteArray::number(static_cast<qulonglong>(number), 16).rightJustified(DigitsOfName, '0');
+}
+
+bool IsOurs(QByteArrayView name) {
+  if (!name.startsWith(Prefix) || name.size() != Prefix.size() + DigitsOfName) return false;
+  const QByteArrayView digits = name.sliced(Prefix.size());
+  return std::all_of(digits.begin(), digits.end(), [](char digit) {
+    return (digit >= '0' && digit <= '9') || (digit >= 'a' && digit <= 'f');
+  });
 }
 
 // A saving file is locked by its process for as long as that lives. The name may be a symbolic link
 // by now, or anything else that is not ours to open.
-bool IsLeft(const QByteArray& name) {
-  const int descriptor = open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-  if (descriptor < 0) return false;
-  const bool isFree = flock(descriptor, LOCK_EX | LOCK_NB) == 0;
-  close(descriptor);
-  return isFree;
+bool IsLeft(const OpenFolder& folder, const char* name, uid_t owner) {
+  const Descriptor file(
+      openat(folder.Number(), name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  struct stat status {};
+  if (!file.IsOpen() || fstat(file.Number(), &status) != 0) return false;
+  if (!S_ISREG(status.st_mode)) return false;
+  if (status.st_uid != geteuid() && status.st_uid != owner) return false;
+  return flock(file.Number(), LOCK_EX | LOCK_NB) == 0;
+}
+
+std::vector<QByteArray> OurNames(const OpenFolder& folder) {
+  const int listed = openat(folder.Number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  const std::unique_ptr<DIR, int (*)(DIR*)> list(listed < 0 ? nullptr : fdopendir(listed),
+                                                 closedir);
+  std::vector<QByteArray> names;
+  if (!list) return names;
+  while (const dirent* entry = readdir(list.get())) {
+    if (IsOurs(entry->d_name)) names.emplace_back(entry->d_name);
+  }
+  return names;
 }
 
 }  // namespace
 
-SavingFile::SavingFile(const QString& folder)
-    : name_(QFile::encodeName(QDir(folder).filePath(Prefix + QString::number(getpid())))),
-      descriptor_(Persist([this] {
-        return open(name_.constData(), O_CREAT | O_TRUNC | O_WRONLY | O_NOFOLLOW | O_CLOEXEC,
-                    ModeOfNewFiles);
-      })) {
-  // Without a lock, as on disks that know none, the folder's own lock guards the file alone.
-  if (IsOpen()) flock(descriptor_, LOCK_EX | LOCK_NB);
+SavingFile::SavingFile(const OpenFolder& folder, mode_t mode) : folder_(folder), descriptor_(-1) {
+  for (int search = 0; search < LongestSearch; ++search) {
+    name_ = ChanceName();
+    if (name_.isEmpty()) return;
+    descriptor_ = Descriptor(Persist([&] {
+      return openat(folder.Number(), name_.constData(),
+                    O_CREAT | O_EXCL | O_WRONLY | O_NOFOLLOW | O_CLOEXEC, mode);
+    }));
+    if (IsOpen() ? IsKept(Number()) : errno != EEXIST) return;
+  }
+  descriptor_ = Descriptor(-1);
+  errno = EBUSY;
 }
 
 SavingFile::~SavingFile() {
-  if (descriptor_ < 0) return;
   const int reason = errno;
-  close(descriptor_);
-  if (!name_.isEmpty()) unlink(name_.constData());
+  if (IsOpen() && !name_.isEmpty()) unlinkat(folder_.Number(), name_.constData(), 0);
   errno = reason;
 }
 
 bool SavingFile::Write(const QByteArray& bytes) const {
   for (qsizetype written = 0; written < bytes.size();) {
     const auto rest = static_cast<std::size_t>(bytes.size() - written);
-    const ssize_t now =
-        Persist([&] { return write(descriptor_, bytes.constData() + written, rest); });
+    const ssize_t now = Persist([&] { return write(Number(), bytes.constData() + written, rest); });
     if (now < 0) return false;
     written += now;
   }
-  return Persist([this] { return fsync(descriptor_); }) == 0;
+  return Persist([this] { return fsync(Number()); }) == 0;
 }
 
-bool SavingFile::TakePlaceOf(const QString& pathName) {
-  const QByteArray target = QFile::encodeName(pathName);
-  if (!CopyMode(target, descriptor_)) return false;
-  if (Persist([&] { return rename(name_.constData(), target.constData()); }) != 0) return false;
+bool SavingFile::TakeNameOf(const QByteArray& name) {
+  const auto rename = [&] {
+    return renameat(folder_.Number(), name_.constData(), folder_.Number(), name.constData());
+  };
+  if (Persist(rename) != 0) return false;
   name_.clear();
   return true;
 }
 
-void RemoveLeftSavingFiles(const QString& folder) {
-  const QDir place(folder);
-  const QStringList names = place.entryList({Prefix + QString("*")}, QDir::Files | QDir::Hidden);
-  for (const QString& name : names) {
-    const QByteArray file = QFile::encodeName(place.filePath(name));
-    if (IsOurs(name) && IsLeft(file)) unlink(file.constData());
+void RemoveLeftSavingFiles(const OpenFolder& folder, uid_t owner) {
+  for (const QByteArray& name : OurNames(folder)) {
+    if (IsLeft(folder, name.constData(), owner)) unlinkat(folder.Number(), name.constData(), 0);
   }
 }

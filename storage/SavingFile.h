@@ -1,28 +1,36 @@
 #pragma once
 
-#include <QByteArray>
-#include <QString>
+#include <sys/stat.h>
 
-// Where bytes go until they take the place of an old file: a hidden file in the same folder. It
-// disappears again unless it took that place. What fails leaves its reason in errno.
+#include <QByteArray>
+
+#include "storage/OpenFolder.h"
+#include "storage/SystemCalls.h"
+
+// Where bytes go until they take the place of an old file: a hidden file in the same folder, made
+// anew under a name that nobody can foresee. It disappears again unless it took that place. What
+// fails leaves its reason in errno.
 class SavingFile {
  public:
-  explicit SavingFile(const QString& folder);
+  // The folder outlives the file.
+  SavingFile(const OpenFolder& folder, mode_t mode);
   ~SavingFile();
   SavingFile(const SavingFile&) = delete;
   SavingFile& operator=(const SavingFile&) = delete;
 
-  bool IsOpen() const { return descriptor_ >= 0; }
+  bool IsOpen() const { return descriptor_.IsOpen(); }
+  int Number() const { return descriptor_.Number(); }
   // All of the bytes, and onto the disk.
-  bool Write(const QByteArray& bytes) const;
-  // The other file need not exist; if it does, its permissions are kept.
-  bool TakePlaceOf(const QString& pathName);
+  [[nodiscard]] bool Write(const QByteArray& bytes) const;
+  // Of another file in the folder, which need not exist.
+  [[nodiscard]] bool TakeNameOf(const QByteArray& name);
 
  private:
+  const OpenFolder& folder_;
   QByteArray name_;
-  int descriptor_;
+  Descriptor descriptor_;
 };
 
-// Removes what killed processes left in a folder, and nothing that a living one is saving. Only for
-// who has the folder locked.
-void RemoveLeftSavingFiles(const QString& folder);
+// Removes what killed processes of this user, or of the owner of the file that is being replaced,
+// left in the folder: nothing that a living one is saving.
+void RemoveLeftSavingFiles(const OpenFolder& folder, uid_t owner);

@@ -4,10 +4,12 @@
 
 #include "core/NumberText.h"
 #include "core/TimeString.h"
-#include "storage/IniStore.h"
 #include "storage/NumberParser.h"
 
 namespace {
+
+// Games of more squares than these belong to the high list.
+constexpr int MostLowMoves = 32;
 
 constexpr int RowCount = static_cast<int>(std::tuple_size_v<ScoreRows>);
 
@@ -36,7 +38,7 @@ int MovesAt(const ScoreRows& rows, int place) {
   return LenientInt32(RowAt(rows, place).moves);
 }
 
-int PlaceInLowList(const ScoreRows& rows, const OfferedGame& game) {
+int PlaceInLowList(const ScoreRows& rows, const FinishedGame& game) {
   int place = 0;
   while (place < RowCount && MovesAt(rows, place) > 0 && MovesAt(rows, place) < game.totalMoves) {
     ++place;
@@ -48,7 +50,7 @@ int PlaceInLowList(const ScoreRows& rows, const OfferedGame& game) {
   return place;
 }
 
-int PlaceInHighList(const ScoreRows& rows, const OfferedGame& game) {
+int PlaceInHighList(const ScoreRows& rows, const FinishedGame& game) {
   int place = RowCount;
   while (place > 0 && MovesAt(rows, place - 1) < game.totalMoves) --place;
   while (place > 0 && MovesAt(rows, place - 1) == game.totalMoves &&
@@ -60,22 +62,23 @@ int PlaceInHighList(const ScoreRows& rows, const OfferedGame& game) {
 
 }  // namespace
 
-QString ScoreSection(bool highScore) {
-  return highScore ? "High Scores" : "Low Scores";
+ScoreList ListOf(const FinishedGame& game) {
+  return game.totalMoves > MostLowMoves ? ScoreList::High : ScoreList::Low;
 }
 
-ScoreRows RowsFrom(const IniValues& values, const QString& section) {
+QString ScoreSection(ScoreList list) {
+  return list == ScoreList::High ? "High Scores" : "Low Scores";
+}
+
+ScoreRows RowsFrom(const IniValues& values, ScoreList list) {
   ScoreRows rows;
+  const QString section = ScoreSection(list);
   for (std::size_t row = 0; row < rows.size(); ++row) rows[row] = ReadRow(values, section, row);
   return rows;
 }
 
-ScoreRows ReadScores(const QString& pathName, const QString& section) {
-  return RowsFrom(IniValues(ReadIniStore(pathName).bytes), section);
-}
-
-int InsertionPlace(const ScoreRows& rows, const OfferedGame& game) {
-  return game.highScore ? PlaceInHighList(rows, game) : PlaceInLowList(rows, game);
+int InsertionPlace(ScoreList list, const ScoreRows& rows, const FinishedGame& game) {
+  return list == ScoreList::High ? PlaceInHighList(rows, game) : PlaceInLowList(rows, game);
 }
 
 void InsertScore(ScoreRows& rows, int place, const ScoreRow& row) {
@@ -84,12 +87,13 @@ void InsertScore(ScoreRows& rows, int place, const ScoreRow& row) {
   *begin = row;
 }
 
-ScoreRow RowOf(const OfferedGame& game, const QString& name) {
+ScoreRow RowOf(const FinishedGame& game, const QString& name) {
   return {name, QString::number(game.totalMoves), TextOfTime(game.totalTime), game.totalTime};
 }
 
-std::vector<IniEntry> ScoreEntries(const QString& section, const ScoreRows& rows) {
+std::vector<IniEntry> ScoreEntries(ScoreList list, const ScoreRows& rows) {
   std::vector<IniEntry> entries;
+  const QString section = ScoreSection(list);
   for (std::size_t row = 0; row < rows.size(); ++row) {
     const bool isTimed = !rows[row].timeText.isEmpty();
     entries.push_back({section, KeyOf("Name", row), rows[row].name});
@@ -100,14 +104,12 @@ std::vector<IniEntry> ScoreEntries(const QString& section, const ScoreRows& rows
   return entries;
 }
 
-std::optional<ProgramError> SaveScore(const QString& pathName, const OfferedGame& game,
-                                      const QString& name) {
-  const QString section = ScoreSection(game.highScore);
-  return UpdateIniStore(pathName, [&](const QByteArray& text) {
-    ScoreRows rows = RowsFrom(IniValues(text), section);
-    const int place = InsertionPlace(rows, game);
-    if (place == RowCount) return std::vector<IniEntry>();
+void SaveScore(KeptFile& file, ScoreList list, const FinishedGame& game, const QString& name) {
+  file.Change([=](const QByteArray& text) {
+    ScoreRows rows = RowsFrom(IniValues(text), list);
+    const int place = InsertionPlace(list, rows, game);
+    if (place == RowCount) return text;
     InsertScore(rows, place, RowOf(game, name));
-    return ScoreEntries(section, rows);
+    return ReplaceIniValues(text, ScoreEntries(list, rows));
   });
 }

@@ -2,13 +2,12 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <vector>
 
 #include <QString>
 
-#include "storage/ErrorTable.h"
 #include "storage/IniText.h"
+#include "storage/KeptFile.h"
 
 // One rank of a score list. An empty row has empty texts, and its moves count as 0.
 struct ScoreRow {
@@ -23,38 +22,37 @@ struct ScoreRow {
 // Rank 1 first.
 using ScoreRows = std::array<ScoreRow, 10>;
 
-// A game that is offered to a list. The low list is for those who got stuck early.
-struct OfferedGame {
+enum class ScoreList { High, Low };
+
+// What is offered to a list.
+struct FinishedGame {
   std::int16_t totalMoves;
   std::int32_t totalTime;  // half-seconds
-  bool highScore;
 };
 
-// Games of more squares than these belong to the high list.
-inline constexpr int MostLowMoves = 32;
+// The low list is for those who got stuck early.
+ScoreList ListOf(const FinishedGame& game);
 
 // "High Scores" or "Low Scores": the section of the file, and the caption of the list.
-QString ScoreSection(bool highScore);
+QString ScoreSection(ScoreList list);
 
-// The rows of a list; what the values, or those of the file, do not have stays empty.
-ScoreRows RowsFrom(const IniValues& values, const QString& section);
-ScoreRows ReadScores(const QString& pathName, const QString& section);
+// The rows of a list; what the values do not have stays empty.
+ScoreRows RowsFrom(const IniValues& values, ScoreList list);
 
 // The place 0..9 that the game takes among the rows, or 10 when it does not rank. A game that
 // equals another one goes below it.
-int InsertionPlace(const ScoreRows& rows, const OfferedGame& game);
+int InsertionPlace(ScoreList list, const ScoreRows& rows, const FinishedGame& game);
 
 // Moves the rows from place 0..9 on down by one, drops the last one and puts in the new one.
 void InsertScore(ScoreRows& rows, int place, const ScoreRow& row);
 
 // The row of a game under a name.
-ScoreRow RowOf(const OfferedGame& game, const QString& name);
+ScoreRow RowOf(const FinishedGame& game, const QString& name);
 
 // The 30 keys of a list.
-std::vector<IniEntry> ScoreEntries(const QString& section, const ScoreRows& rows);
+std::vector<IniEntry> ScoreEntries(ScoreList list, const ScoreRows& rows);
 
-// Enters the game into the list as the file has it now, so that a score which another running copy
-// of the program wrote meanwhile is kept, and writes the list. A game that does not rank any more
+// Enters the game into the list as the file has it when it is written, so that a score which
+// another running copy of the program wrote meanwhile is kept. A game that does not rank any more
 // changes nothing.
-std::optional<ProgramError> SaveScore(const QString& pathName, const OfferedGame& game,
-                                      const QString& name);
+void SaveScore(KeptFile& file, ScoreList list, const FinishedGame& game, const QString& name);

@@ -50,16 +50,13 @@ void AppendPlacement(std::vector<IniEntry>& entries, const WindowPlacement& plac
 
 }  // namespace
 
-void LoadSettings(const clsIniFile& iniFile, const QString& pathName,
-                  const QString& programDirectory, Settings& settings) {
-  const IniValues values = iniFile.ReadIniFileValues(pathName);
+void LoadSettings(const IniValues& values, const QString& programDirectory, Settings& settings) {
   for (const SettingRow& row : SettingsTable()) {
     SetFromText(row, values.Value(row.section, row.key), programDirectory, settings);
   }
 }
 
-WindowPlacement ReadWindowPlacement(const clsIniFile& iniFile, const QString& pathName) {
-  const IniValues values = iniFile.ReadIniFileValues(pathName);
+WindowPlacement WindowPlacementFrom(const IniValues& values) {
   return {.Left = ReadTwips(values, "Left"),
           .Top = ReadTwips(values, "Top"),
           .Height = ReadTwips(values, "Height"),
@@ -93,8 +90,7 @@ std::vector<IniEntry> ChessboardEntries(const Settings& settings) {
   return EntriesWritten(&WritingPlaces::chessboard, settings);
 }
 
-ReplaySettings ReadReplaySettings(const clsIniFile& iniFile, const QString& pathName) {
-  const IniValues values = iniFile.ReadIniFileValues(pathName);
+ReplaySettings ReplaySettingsFrom(const IniValues& values) {
   ReplaySettings replay;
   const QString speed = values.Value("Replay", "Advance Speed");
   const double number = LenientNumber(speed);

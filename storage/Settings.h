@@ -9,7 +9,6 @@
 #include "core/GameState.h"
 #include "storage/BoardLook.h"
 #include "storage/IniText.h"
-#include "storage/clsIniFile.h"
 
 inline constexpr int MaximumSolveRefresh = 32000;
 inline constexpr int MaximumCornerDistance = 1500;  // twips
@@ -45,12 +44,11 @@ struct WindowPlacement {
   int State = 0;  // 0 = normal, 2 = maximised
 };
 
-// Reads every setting afresh; one that is missing, empty or out of its range takes its default.
+// Takes every setting afresh; one that is missing, empty or out of its range takes its default.
 // programDirectory ends in "/".
-void LoadSettings(const clsIniFile& iniFile, const QString& pathName,
-                  const QString& programDirectory, Settings& settings);
+void LoadSettings(const IniValues& values, const QString& programDirectory, Settings& settings);
 
-WindowPlacement ReadWindowPlacement(const clsIniFile& iniFile, const QString& pathName);
+WindowPlacement WindowPlacementFrom(const IniValues& values);
 
 // What is written when the program ends; a minimised window leaves the stored state alone.
 std::vector<IniEntry> ExitEntries(const Settings& settings, const WindowPlacement& placement,
@@ -72,7 +70,7 @@ struct ReplaySettings {
   bool manual = false;
 };
 
-ReplaySettings ReadReplaySettings(const clsIniFile& iniFile, const QString& pathName);
+ReplaySettings ReplaySettingsFrom(const IniValues& values);
 std::vector<IniEntry> ReplayEntries(const ReplaySettings& replay);
 
 // The directory of a file as settings keep it, ending in "/".

@@ -1,10 +1,35 @@
 #include "storage/clsIniFile.h"
 
-#include <QFileInfo>
-
-#include "storage/IniStore.h"
+#include "storage/FileWriter.h"
+#include "storage/PathName.h"
 
 namespace {
+
+constexpr qsizetype LargestFile = qsizetype{1024} * 1024;
+
+Stored StoredUnless(const std::optional<ProgramError>& error) {
+  return error ? Stored::No : Stored::Yes;
+}
+
+// Does the work on a place while nobody else changes a file of its folder.
+template <typename Work>
+Stored WhileLocked(const QString& pathName, Wait wait, const Work& work) {
+  if (IsNoPath(pathName)) return Stored::No;
+  const FilePlace place = PlaceBehindLinks(pathName);
+  const OpenFolder folder(place.folder);
+  if (!folder.IsOpen()) return Stored::No;
+  if (folder.Lock(wait) == FolderLock::AnotherHasIt) return Stored::NotYet;
+  return StoredUnless(work(folder, place));
+}
+
+std::optional<ProgramError> Change(const OpenFolder& folder, const QByteArray& name,
+                                   const FileContent& content, const IniChange& change) {
+  if (content.error && content.error != ProgramError::FileNotFound) return content.error;
+  const QByteArray text = change(content.bytes);
+  if (text == content.bytes) return std::nullopt;
+  if (text.size() > LargestFile) return ProgramError::Overflow;
+  return ReplaceFile(folder, name, text);
+}
 
 QString PlaceText(const QString& pathName, const QString& section, const QString& key) {
   return "Ini File '" + pathName + "' Section '" + section + "' Key '" + key + "' Value";
@@ -15,7 +40,7 @@ QString PlaceText(const QString& pathName, const QString& section, const QString
 bool clsIniFile::ReadIniFileValue(const QString& strVvIniFilePathName,
                                   const QString& strVvSectionName, const QString& strVvKeyName,
                                   QString& strRvValue, QString& strRvErrorDescription) const {
-  if (!QFileInfo(strVvIniFilePathName).isFile()) {
+  if (!IsOrdinaryFile(strVvIniFilePathName)) {
     strRvErrorDescription = "Ini File '" + strVvIniFilePathName + "' Is Missing";
     return false;
   }
@@ -28,7 +53,7 @@ bool clsIniFile::ReadIniFileValue(const QString& strVvIniFilePathName,
 }
 
 IniValues clsIniFile::ReadIniFileValues(const QString& strVvIniFilePathName) const {
-  return IniValues(ReadIniStore(strVvIniFilePathName).bytes);
+  return IniValues(ReadIniText(strVvIniFilePathName).bytes);
 }
 
 bool clsIniFile::WriteIniFileValue(const QString& strVvIniFilePathName,
@@ -42,12 +67,27 @@ bool clsIniFile::WriteIniFileValue(const QString& strVvIniFilePathName,
 bool clsIniFile::WriteIniFileValues(const QString& strVvIniFilePathName,
                                     const std::vector<IniEntry>& entries,
                                     QString& strRvErrorDescription) const {
-  const auto error =
-      UpdateIniStore(strVvIniFilePathName, [&entries](const QByteArray&) { return entries; });
-  if (!error) return true;
+  const auto change = [&](const QByteArray& text) { return ReplaceIniValues(text, entries); };
+  if (ChangeIniText(strVvIniFilePathName, change, Wait::AMoment) == Stored::Yes) return true;
   const IniEntry first = entries.empty() ? IniEntry() : entries.front();
   strRvErrorDescription = "Cannot Write " +
                           PlaceText(strVvIniFilePathName, first.section, first.key) + " '" +
                           first.value + "'";
   return false;
+}
+
+FileContent ReadIniText(const QString& pathName) {
+  FileContent content = ReadFile(pathName, LargestFile + 1);
+  if (content.bytes.size() > LargestFile) return {{}, ProgramError::Overflow};
+  return content;
+}
+
+Stored ChangeIniText(const QString& pathName, const IniChange& change, Wait wait) {
+  return WhileLocked(pathName, wait, [&](const OpenFolder& folder, const FilePlace& place) {
+    return Change(folder, place.name, ReadIniText(pathName), change);
+  });
+}
+
+Stored ClearIniText(const QString& pathName, Wait wait) {
+  return WhileLocked(pathName, wait, ClearFile);
 }

@@ -12,14 +12,19 @@
 #include "storage/MoveListExport.h"
 #include "storage/ScoreLists.h"
 #include "storage/Settings.h"
-#include "storage/clsIniFile.h"
 
 namespace {
 
 bool SaveSettings(const QString& pathName) {
-  QString error;
-  return clsIniFile().WriteIniFileValues(
-      pathName, {{"Settings", "State", "2"}, {"Settings", "Solve Refresh", "250"}}, error);
+  KeptFile file(pathName);
+  file.Change({{"Settings", "State", "2"}, {"Settings", "Solve Refresh", "250"}});
+  return file.IsSaved();
+}
+
+bool SaveAScore(const QString& pathName) {
+  KeptFile file(pathName);
+  SaveScore(file, ScoreList::High, {40, 100}, "Ann");
+  return file.IsSaved();
 }
 
 bool SaveMoves(const QString& pathName) {
@@ -30,10 +35,7 @@ const std::map<std::string, std::function<bool(const QString&)>> Kinds = {
     {"chessboard", [](const QString& path) { return !SaveChessboard(path, Settings()); }},
     {"game", [](const QString& path) { return !WriteFile(path, FormatGame(GameState())); }},
     {"moves", SaveMoves},
-    {"scores",
-     [](const QString& path) {
-       return !SaveScore(path, {40, 100, true}, "Ann");
-     }},
+    {"scores", SaveAScore},
     {"settings", SaveSettings},
 };
 

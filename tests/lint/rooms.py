@@ -23,8 +23,8 @@ MAY_INCLUDE = {
 WINDOWLESS = {"core", "solver"}
 # Qt's headers for files and text; anything else of it in these places is a window's.
 FILES_AND_TEXT = {
-    "storage": {"QByteArray", "QByteArrayView", "QDir", "QFile", "QFileInfo", "QString",
-                "QStringDecoder", "QStringList", "QStringView"},
+    "storage": {"QByteArray", "QByteArrayView", "QList", "QString", "QStringDecoder",
+                "QStringList", "QStringView"},
     "app": {"QCoreApplication", "QString", "QVersionNumber"},
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')

@@ -1,6 +1,7 @@
 #include <QDir>
 
 #include "storage/ChessboardFile.h"
+#include "storage/clsIniFile.h"
 #include "tests/storage/TestFiles.h"
 
 class AChessboardFile : public FolderTest {

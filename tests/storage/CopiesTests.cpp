@@ -79,10 +79,10 @@ TEST_F(RunningCopies, LoseNoSettingThatWasSavedWhenSomeAreKilled) {
 TEST_F(RunningCopies, LoseNoScoreThatWasSavedWhenSomeAreKilled) {
   for (int round = 0; round < CountFrom("GALLOPADE_ROUNDS", UsualRounds); ++round) {
     const QString path = PathOf("Scores.dat");
-    const auto save = [&](int number) { return !SaveScore(path, {40, number, true}, "Ann"); };
+    const auto save = [&](int number) { return Enter(path, ScoreList::High, {40, number}, "Ann"); };
     const std::set<int> saved = RunAll(save, 2);
     std::set<int> listed;
-    for (const ScoreRow& row : ReadScores(path, "High Scores")) {
+    for (const ScoreRow& row : ScoresIn(path, ScoreList::High)) {
       if (!row.moves.isEmpty()) listed.insert(row.time);
     }
     EXPECT_TRUE(std::includes(listed.begin(), listed.end(), saved.begin(), saved.end()));

@@ -37,7 +37,9 @@ TEST_F(ReadingAFile, FollowsASymbolicLink) {
 
 TEST_F(ReadingAFile, FailsWhenItIsNotThere) {
   EXPECT_EQ(ReadFile(PathOf("x"), Plenty).error, ProgramError::FileNotFound);
-  EXPECT_EQ(ReadFile(PathOf("no folder/x"), Plenty).error, ProgramError::FileNotFound);
+  EXPECT_EQ(ReadFile(PathOf("no folder/x"), Plenty).error, ProgramError::PathNotFound);
+  EXPECT_EQ(ReadFile(PathOf("no folder/"), Plenty).error, ProgramError::PathNotFound);
+  EXPECT_EQ(ReadFile("no file", Plenty).error, ProgramError::FileNotFound);
 }
 
 TEST_F(ReadingAFile, FailsForAFolder) {

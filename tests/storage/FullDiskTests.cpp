@@ -1,7 +1,7 @@
 #include "storage/ChessboardFile.h"
 #include "storage/FileWriter.h"
 #include "storage/GameFile.h"
-#include "storage/ScoreLists.h"
+#include "storage/clsIniFile.h"
 #include "tests/storage/TestFiles.h"
 
 namespace {
@@ -76,7 +76,7 @@ TEST_F(OnAFullDisk, SettingsStayAsTheyWere) {
 
 TEST_F(OnAFullDisk, AScoreListStaysAsItWas) {
   Run([this] {
-    EXPECT_NE(SaveScore(PathOf("x"), {40, 100, true}, "Ann"), std::nullopt);
+    EXPECT_FALSE(Enter(PathOf("x"), ScoreList::High, {40, 100}, "Ann"));
     EXPECT_EQ(ContentOf(PathOf("x")), "old");
   });
 }
@@ -117,7 +117,7 @@ TEST_P(OnANearlyFullDisk, SettingsAreSavedOrTold) {
 }
 
 TEST_P(OnANearlyFullDisk, AScoreIsSavedOrTold) {
-  Save([](const QString& path) { return !SaveScore(path, {40, 100, true}, "Ann"); });
+  Save([](const QString& path) { return Enter(path, ScoreList::High, {40, 100}, "Ann"); });
 }
 
 TEST_P(OnANearlyFullDisk, AChessboardIsSavedOrTold) {

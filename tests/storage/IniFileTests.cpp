@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 
-#include "storage/FolderLock.h"
 #include "storage/clsIniFile.h"
 #include "tests/storage/TestFiles.h"
 
@@ -136,8 +135,8 @@ TEST_F(TheIniFile, IsNotReplacedWhenItCannotBeRead) {
 
 TEST_F(TheIniFile, IsNotWrittenWhileAnotherCopyHoldsItsFolder) {
   const QString path = Put("x.ini", "[S]\nKey=1\n");
-  FolderLock other(Folder());
-  ASSERT_TRUE(other.Take());
+  const OpenFolder other(QFile::encodeName(Folder()));
+  ASSERT_EQ(other.Lock(Wait::Not), FolderLock::Taken);
   EXPECT_NE(ErrorOfWriting(path, "2"), "");
   EXPECT_EQ(ContentOf(path), "[S]\nKey=1\n");
 }

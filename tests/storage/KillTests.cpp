@@ -79,13 +79,13 @@ TEST_F(KilledWhileSaving, LeavesTheOldFileOrTheNewOneAndNothingThatTheNextDoesNo
   const QString path = Put("x", one);
   Run(
       [&] {
-        WriteFile(path, two);
-        WriteFile(path, one);
+        std::ignore = WriteFile(path, two);
+        std::ignore = WriteFile(path, one);
       },
       [&] {
         const QByteArray content = ContentOf(path);
         EXPECT_TRUE(content == one || content == two) << content.size() << " bytes";
-        WriteFile(path, one);
+        std::ignore = WriteFile(path, one);
         EXPECT_EQ(Names(), QStringList{"x"});
       });
 }
@@ -103,7 +103,7 @@ TEST_F(KilledWhileSaving, LeavesSettingsThatWereWrittenTogether) {
       [&] {
         const QString next = QString::number(read("S", "A").toInt() + 1);
         QString error;
-        iniFile.WriteIniFileValues(path, {{"S", "A", next}, {"S", "B", next}}, error);
+        std::ignore = iniFile.WriteIniFileValues(path, {{"S", "A", next}, {"S", "B", next}}, error);
       },
       [&] {
         EXPECT_EQ(read("S", "A"), read("S", "B"));
@@ -114,19 +114,19 @@ TEST_F(KilledWhileSaving, LeavesSettingsThatWereWrittenTogether) {
 TEST_F(KilledWhileSaving, LosesNoOldScore) {
   const QString path = PathOf("Scores.dat");
   for (std::int16_t moves = 64; moves > 59; --moves) {
-    EXPECT_EQ(SaveScore(path, {moves, 100, true}, QString("Old %1").arg(moves)), std::nullopt);
+    EXPECT_TRUE(Enter(path, ScoreList::High, {moves, 100}, QString("Old %1").arg(moves)));
   }
-  const ScoreRows old = ReadScores(path, "High Scores");
+  const ScoreRows old = ScoresIn(path, ScoreList::High);
   const QByteArray oldFile = ContentOf(path);
   Run(
       [&] {
-        WriteFile(path, oldFile);
-        SaveScore(path, {40, 100, true}, "New");
+        std::ignore = WriteFile(path, oldFile);
+        Enter(path, ScoreList::High, {40, 100}, "New");
       },
       [&] {
-        const ScoreRows rows = ReadScores(path, "High Scores");
+        const ScoreRows rows = ScoresIn(path, ScoreList::High);
         EXPECT_TRUE(std::equal(old.begin(), old.begin() + 5, rows.begin()));
-        EXPECT_TRUE(rows[5] == ScoreRow() || rows[5] == RowOf({40, 100, true}, "New"));
+        EXPECT_TRUE(rows[5] == ScoreRow() || rows[5] == RowOf({40, 100}, "New"));
       },
       UsualKillsAmongScores);
 }
@@ -135,6 +135,6 @@ TEST_F(KilledWhileSaving, DoesNotKeepTheNextOneFromWriting) {
   const QString path = PathOf("x.ini");
   const clsIniFile iniFile{};
   QString error;
-  Run([&] { iniFile.WriteIniFileValue(path, "S", "Key", "1", error); },
+  Run([&] { std::ignore = iniFile.WriteIniFileValue(path, "S", "Key", "1", error); },
       [&] { EXPECT_TRUE(iniFile.WriteIniFileValue(path, "S", "Key", "2", error)); });
 }

@@ -8,16 +8,17 @@
 class TheScoreFile : public FolderTest {
  protected:
   QString Path() const { return PathOf("Scores.dat"); }
-  ScoreRows ReadHigh() const { return ReadScores(Path(), "High Scores"); }
+  ScoreRows ReadHigh() const { return ScoresIn(Path(), ScoreList::High); }
   void Save(std::int16_t moves, std::int32_t time, const QString& name) const {
-    EXPECT_EQ(SaveScore(Path(), {moves, time, moves > MostLowMoves}, name), std::nullopt);
+    const FinishedGame game{moves, time};
+    EXPECT_TRUE(Enter(Path(), ListOf(game), game, name));
   }
 };
 
 TEST_F(TheScoreFile, HasThirtyKeysForAList) {
   ScoreRows rows;
-  rows[0] = RowOf({64, 100, true}, "Ann");
-  const auto entries = ScoreEntries("High Scores", rows);
+  rows[0] = RowOf({64, 100}, "Ann");
+  const auto entries = ScoreEntries(ScoreList::High, rows);
   ASSERT_EQ(entries.size(), 30U);
   EXPECT_EQ(KeysOf(entries).first(4), QStringList({"Name 1", "Moves 1", "Time 1", "Name 2"}));
   EXPECT_EQ(KeysOf(entries).last(3), QStringList({"Name 10", "Moves 10", "Time 10"}));
@@ -25,8 +26,8 @@ TEST_F(TheScoreFile, HasThirtyKeysForAList) {
 
 TEST_F(TheScoreFile, HasEmptyValuesForEmptyRows) {
   ScoreRows rows;
-  rows[0] = RowOf({64, 100, true}, "Ann");
-  const auto values = ValuesOf(ScoreEntries("High Scores", rows));
+  rows[0] = RowOf({64, 100}, "Ann");
+  const auto values = ValuesOf(ScoreEntries(ScoreList::High, rows));
   EXPECT_EQ(values.at("High Scores/Time 1"), "100");
   EXPECT_EQ(values.at("High Scores/Name 2"), "");
   EXPECT_EQ(values.at("High Scores/Moves 2"), "");
@@ -47,23 +48,23 @@ TEST_F(TheScoreFile, GivesTheRowsBack) {
   Save(40, 0, "Ann");
   Save(64, 7203, "Ben");
   const ScoreRows rows = ReadHigh();
-  EXPECT_EQ(rows[0], RowOf({64, 7203, true}, "Ben"));
-  EXPECT_EQ(rows[1], RowOf({40, 0, true}, "Ann"));
+  EXPECT_EQ(rows[0], RowOf({64, 7203}, "Ben"));
+  EXPECT_EQ(rows[1], RowOf({40, 0}, "Ann"));
   EXPECT_EQ(rows[2], ScoreRow());
 }
 
 TEST_F(TheScoreFile, KeepsBothListsApart) {
   Save(32, 5, "Low");
   Save(33, 5, "High");
-  EXPECT_EQ(ReadScores(Path(), "Low Scores")[0].name, "Low");
-  EXPECT_EQ(ReadScores(Path(), "Low Scores")[1], ScoreRow());
+  EXPECT_EQ(ScoresIn(Path(), ScoreList::Low)[0].name, "Low");
+  EXPECT_EQ(ScoresIn(Path(), ScoreList::Low)[1], ScoreRow());
   EXPECT_EQ(ReadHigh()[0].name, "High");
   EXPECT_EQ(ReadHigh()[1], ScoreRow());
 }
 
 TEST_F(TheScoreFile, NamesTheListsByTheirCaptions) {
-  EXPECT_EQ(ScoreSection(true), "High Scores");
-  EXPECT_EQ(ScoreSection(false), "Low Scores");
+  EXPECT_EQ(ScoreSection(ScoreList::High), "High Scores");
+  EXPECT_EQ(ScoreSection(ScoreList::Low), "Low Scores");
 }
 
 TEST_F(TheScoreFile, GivesEmptyRowsWhenItIsNotThere) {
@@ -89,7 +90,7 @@ TEST_F(TheScoreFile, IsRefusedWhenItIsHugeAndLeftAsItIs) {
   QFile huge(Put("Scores.dat", "[High Scores]\nName 1=Ann\n"));
   ASSERT_TRUE(huge.resize(100LL * 1024 * 1024));
   EXPECT_EQ(ReadHigh(), ScoreRows());
-  EXPECT_NE(SaveScore(Path(), {40, 5, true}, "Ben"), std::nullopt);
+  EXPECT_FALSE(Enter(Path(), ScoreList::High, {40, 5}, "Ben"));
   EXPECT_EQ(huge.size(), 100LL * 1024 * 1024);
 }
 
@@ -99,7 +100,7 @@ TEST_F(TheScoreFile, MayHaveItsKeysOutOfOrderAndRowsMissing) {
   EXPECT_EQ(rows[0].name, "");
   EXPECT_EQ(rows[0].moves, "60");
   EXPECT_EQ(rows[0].timeText, "");
-  EXPECT_EQ(rows[2], RowOf({50, 7, true}, "Ann"));
+  EXPECT_EQ(rows[2], RowOf({50, 7}, "Ann"));
   EXPECT_EQ(rows[9].name, "Zoe");
 }
 
@@ -108,7 +109,7 @@ TEST_F(TheScoreFile, MayHaveNumbersThatAreNone) {
   const ScoreRows rows = ReadHigh();
   EXPECT_EQ(rows[0].moves, "many");
   EXPECT_EQ(rows[0].timeText, "0:00:00.0");
-  EXPECT_EQ(InsertionPlace(rows, {40, 5, true}), 0);
+  EXPECT_EQ(InsertionPlace(ScoreList::High, rows, {40, 5}), 0);
 }
 
 TEST_F(TheScoreFile, KeepsNamesAsTheyWereEntered) {
@@ -136,7 +137,7 @@ TEST_F(TheScoreFile, IsNotChangedByAGameThatDoesNotRank) {
 TEST_F(TheScoreFile, TakesInWhatAnotherCopyWroteMeanwhile) {
   Save(40, 5, "Ann");
   const ScoreRows shown = ReadHigh();
-  ASSERT_EQ(InsertionPlace(shown, {50, 5, true}), 0);
+  ASSERT_EQ(InsertionPlace(ScoreList::High, shown, {50, 5}), 0);
   Save(60, 5, "Other copy");
   Save(50, 5, "Ben");
   const ScoreRows rows = ReadHigh();

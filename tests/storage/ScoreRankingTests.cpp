@@ -8,22 +8,21 @@ namespace {
 
 constexpr int DoesNotRank = 10;
 
-ScoreRows Rows(bool highScore, const std::vector<std::pair<int, int>>& games) {
+ScoreRows Rows(const std::vector<std::pair<int, int>>& games) {
   ScoreRows rows;
   for (std::size_t row = 0; row < games.size(); ++row) {
-    const OfferedGame game{static_cast<std::int16_t>(games[row].first), games[row].second,
-                           highScore};
+    const FinishedGame game{static_cast<std::int16_t>(games[row].first), games[row].second};
     rows[row] = RowOf(game, QString("Player %1").arg(row + 1));
   }
   return rows;
 }
 
 int HighPlace(const std::vector<std::pair<int, int>>& games, std::int16_t moves, int time) {
-  return InsertionPlace(Rows(true, games), {moves, time, true});
+  return InsertionPlace(ScoreList::High, Rows(games), {moves, time});
 }
 
 int LowPlace(const std::vector<std::pair<int, int>>& games, std::int16_t moves, int time) {
-  return InsertionPlace(Rows(false, games), {moves, time, false});
+  return InsertionPlace(ScoreList::Low, Rows(games), {moves, time});
 }
 
 }  // namespace
@@ -79,9 +78,9 @@ TEST(TheLowList, HasNoPlaceBelowItsTenth) {
 }
 
 TEST(InsertingAScore, MovesTheRowsBelowDownAndDropsTheLast) {
-  ScoreRows rows = Rows(false, std::vector<std::pair<int, int>>(10, {5, 100}));
+  ScoreRows rows = Rows(std::vector<std::pair<int, int>>(10, {5, 100}));
   const ScoreRows before = rows;
-  const ScoreRow row = RowOf({4, 7, false}, "Ann");
+  const ScoreRow row = RowOf({4, 7}, "Ann");
   InsertScore(rows, 2, row);
   EXPECT_TRUE(std::equal(rows.begin(), rows.begin() + 2, before.begin()));
   EXPECT_EQ(rows[2], row);
@@ -89,14 +88,14 @@ TEST(InsertingAScore, MovesTheRowsBelowDownAndDropsTheLast) {
 }
 
 TEST(InsertingAScore, MayReplaceTheLast) {
-  ScoreRows rows = Rows(true, std::vector<std::pair<int, int>>(10, {50, 100}));
-  InsertScore(rows, 9, RowOf({40, 7, true}, "Ann"));
+  ScoreRows rows = Rows(std::vector<std::pair<int, int>>(10, {50, 100}));
+  InsertScore(rows, 9, RowOf({40, 7}, "Ann"));
   EXPECT_EQ(rows[8].name, "Player 9");
   EXPECT_EQ(rows[9].name, "Ann");
 }
 
 TEST(ARowOfTheList, ShowsTheTime) {
-  const ScoreRow row = RowOf({64, 7203, true}, "Ann");
+  const ScoreRow row = RowOf({64, 7203}, "Ann");
   EXPECT_EQ(row.moves, "64");
   EXPECT_EQ(row.timeText, "1:00:01.5");
   EXPECT_EQ(row.time, 7203);
@@ -104,21 +103,22 @@ TEST(ARowOfTheList, ShowsTheTime) {
 
 // Games are offered one after the other; what is kept must be the first ten of a stable sort of
 // all.
-class ChanceLists : public testing::TestWithParam<bool> {
+class ChanceLists : public testing::TestWithParam<ScoreList> {
  protected:
   static constexpr int Lists = 50000;
 
-  OfferedGame ChanceGame() {
-    const int moves = GetParam() ? 33 + Below(4) : 1 + Below(4);
-    return {static_cast<std::int16_t>(moves), Below(4), GetParam()};
+  FinishedGame ChanceGame() {
+    const int moves = IsHigh() ? 33 + Below(4) : 1 + Below(4);
+    return {static_cast<std::int16_t>(moves), Below(4)};
   }
+  static bool IsHigh() { return GetParam() == ScoreList::High; }
   int Below(unsigned bound) { return static_cast<int>(random_() % bound); }
 
   static bool IsBetter(const ScoreRow& one, const ScoreRow& other) {
     const int oneMoves = one.moves.toInt();
     const int otherMoves = other.moves.toInt();
     if (oneMoves == otherMoves) return one.time < other.time;
-    return GetParam() ? oneMoves > otherMoves : oneMoves < otherMoves;
+    return IsHigh() ? oneMoves > otherMoves : oneMoves < otherMoves;
   }
 
  private:
@@ -130,9 +130,9 @@ TEST_P(ChanceLists, RankAsAStableSortDoes) {
     ScoreRows rows;
     std::vector<ScoreRow> all;
     for (int count = Below(16); count > 0; --count) {
-      const OfferedGame game = ChanceGame();
+      const FinishedGame game = ChanceGame();
       const ScoreRow row = RowOf(game, QString::number(count));
-      const int place = InsertionPlace(rows, game);
+      const int place = InsertionPlace(GetParam(), rows, game);
       if (place < DoesNotRank) InsertScore(rows, place, row);
       all.push_back(row);
     }
@@ -142,5 +142,7 @@ TEST_P(ChanceLists, RankAsAStableSortDoes) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(HighAndLow, ChanceLists, testing::Bool(),
-                         [](const auto& parameter) { return parameter.param ? "High" : "Low"; });
+INSTANTIATE_TEST_SUITE_P(HighAndLow, ChanceLists, testing::Values(ScoreList::High, ScoreList::Low),
+                         [](const auto& parameter) {
+                           return parameter.param == ScoreList::High ? "High" : "Low";
+                         });

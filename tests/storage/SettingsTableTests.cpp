@@ -35,7 +35,7 @@ class EverySetting : public FolderTest, public testing::WithParamInterface<Setti
  protected:
   QString LoadedFrom(const QByteArray& text) const {
     Settings settings;
-    LoadSettings(clsIniFile(), Put("x.ini", text), "/p/", settings);
+    LoadSettings(IniValues(text), "/p/", settings);
     return TextOf(GetParam(), settings);
   }
   QByteArray Line(const QByteArray& value) const {

@@ -1,4 +1,5 @@
 #include "storage/Settings.h"
+#include "storage/clsIniFile.h"
 #include "tests/storage/TestFiles.h"
 
 class LoadedSettings : public FolderTest {
@@ -9,7 +10,7 @@ class LoadedSettings : public FolderTest {
   }
   Settings LoadFrom(const QString& pathName) const {
     Settings settings;
-    LoadSettings(clsIniFile(), pathName, "/games/nova/", settings);
+    LoadSettings(clsIniFile().ReadIniFileValues(pathName), "/games/nova/", settings);
     return settings;
   }
 };
@@ -68,7 +69,7 @@ TEST_F(LoadedSettings, ForgetWhatWasInMemory) {
   settings.LightColor = 5;
   settings.LightImage = "mine.gif";
   settings.UseImages = false;
-  LoadSettings(clsIniFile(), PathOf("x.ini"), "/p/", settings);
+  LoadSettings(clsIniFile().ReadIniFileValues(PathOf("x.ini")), "/p/", settings);
   EXPECT_EQ(settings.LightColor, SystemColor(0x16));
   EXPECT_EQ(settings.LightImage, "Wood Light.gif");
   EXPECT_TRUE(settings.UseImages);
@@ -152,7 +153,7 @@ TEST_F(LoadedSettings, GoOnPastABadOne) {
 class WindowPlacementFile : public FolderTest {
  protected:
   WindowPlacement Read(const QByteArray& lines) const {
-    return ReadWindowPlacement(clsIniFile(), Put("x.ini", "[Settings]\n" + lines));
+    return WindowPlacementFrom(IniValues("[Settings]\n" + lines));
   }
 };
 

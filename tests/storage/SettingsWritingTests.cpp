@@ -1,4 +1,5 @@
 #include "storage/Settings.h"
+#include "storage/clsIniFile.h"
 #include "tests/storage/TestFiles.h"
 
 namespace {
@@ -100,7 +101,7 @@ class WrittenSettings : public FolderTest {
   }
   Settings Load() const {
     Settings settings;
-    LoadSettings(clsIniFile(), PathOf("x.ini"), "/p/", settings);
+    LoadSettings(clsIniFile().ReadIniFileValues(PathOf("x.ini")), "/p/", settings);
     return settings;
   }
 };
@@ -132,7 +133,7 @@ TEST_F(WrittenSettings, DoNotDriftOverTenStarts) {
       .Left = 1234.5, .Top = 7.25, .Height = 9601.0, .Width = 9603.0, .State = 0};
   for (int start = 0; start < 10; ++start) {
     Write(ExitEntries(Load(), placement, false));
-    placement = ReadWindowPlacement(clsIniFile(), PathOf("x.ini"));
+    placement = WindowPlacementFrom(clsIniFile().ReadIniFileValues(PathOf("x.ini")));
   }
   EXPECT_EQ(placement.Left, 1234.5);
   EXPECT_EQ(placement.Top, 7.25);
@@ -143,7 +144,8 @@ TEST_F(WrittenSettings, DoNotDriftOverTenStarts) {
 TEST_F(WrittenSettings, KeepTheStoredStateWhenTheWindowIsMinimised) {
   Write(ExitEntries(Settings(), Somewhere, false));
   Write(ExitEntries(Settings(), {.Left = 30.0, .State = 0}, true));
-  const WindowPlacement placement = ReadWindowPlacement(clsIniFile(), PathOf("x.ini"));
+  const WindowPlacement placement =
+      WindowPlacementFrom(clsIniFile().ReadIniFileValues(PathOf("x.ini")));
   EXPECT_EQ(placement.State, 2);
   EXPECT_EQ(placement.Left, 30.0);
 }
@@ -151,7 +153,7 @@ TEST_F(WrittenSettings, KeepTheStoredStateWhenTheWindowIsMinimised) {
 class TheReplaysSettings : public WrittenSettings {
  protected:
   ReplaySettings Read(const QByteArray& lines) const {
-    return ReadReplaySettings(clsIniFile(), Put("x.ini", "[Replay]\n" + lines));
+    return ReplaySettingsFrom(IniValues("[Replay]\n" + lines));
   }
 };
 
@@ -181,7 +183,7 @@ TEST_F(TheReplaysSettings, AreManualForEveryNumberButZero) {
 
 TEST_F(TheReplaysSettings, AreReadBack) {
   Write(ReplayEntries({.AdvanceSpeed = "12", .manual = true}));
-  const ReplaySettings replay = ReadReplaySettings(clsIniFile(), PathOf("x.ini"));
+  const ReplaySettings replay = ReplaySettingsFrom(clsIniFile().ReadIniFileValues(PathOf("x.ini")));
   EXPECT_EQ(replay.AdvanceSpeed, "12");
   EXPECT_TRUE(replay.manual);
 }

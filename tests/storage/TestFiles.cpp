@@ -55,6 +55,17 @@ QStringList KeysOf(const std::vector<IniEntry>& entries) {
   return keys;
 }
 
+ScoreRows ScoresIn(const QString& pathName, ScoreList list) {
+  return RowsFrom(KeptFile(pathName).Values(), list);
+}
+
+bool Enter(const QString& pathName, ScoreList list, const FinishedGame& game, const QString& name) {
+  KeptFile file(pathName);
+  SaveScore(file, list, game, name);
+  file.Save(Wait::AMoment);
+  return file.IsSaved();
+}
+
 namespace {
 
 constexpr int NotAllowedCode = 77;

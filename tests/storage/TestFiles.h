@@ -14,6 +14,7 @@
 
 #include "storage/ErrorTable.h"
 #include "storage/IniText.h"
+#include "storage/ScoreLists.h"
 
 void PrintTo(const QString& text, std::ostream* out);
 void PrintTo(const QByteArray& bytes, std::ostream* out);
@@ -41,6 +42,10 @@ class FolderTest : public testing::Test {
 // What is written under each "section/key" of a list of entries, and the keys in their order.
 std::map<QString, QString> ValuesOf(const std::vector<IniEntry>& entries);
 QStringList KeysOf(const std::vector<IniEntry>& entries);
+
+// The rows of a list of a file, and entering a game into one: false when it could not be written.
+ScoreRows ScoresIn(const QString& pathName, ScoreList list);
+bool Enter(const QString& pathName, ScoreList list, const FinishedGame& game, const QString& name);
 
 enum class Apart { Passed, Failed, NotAllowed };
 

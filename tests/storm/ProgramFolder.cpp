@@ -85,13 +85,13 @@ bool IsIniText(const QByteArray& content) {
 }
 
 bool AreRanked(const QString& path) {
-  for (const bool high : {true, false}) {
-    const ScoreRows rows = ReadScores(path, ScoreSection(high));
+  for (const ScoreList list : {ScoreList::High, ScoreList::Low}) {
+    const ScoreRows rows = RowsFrom(KeptFile(path).Values(), list);
     for (std::size_t i = 1; i < rows.size(); ++i) {
       const int before = rows[i - 1].moves.toInt();
       const int moves = rows[i].moves.toInt();
       if (moves > 0 && before == 0) return false;
-      if (moves > 0 && (high ? moves > before : moves < before)) return false;
+      if (moves > 0 && (list == ScoreList::High ? moves > before : moves < before)) return false;
       if (moves > 0 && moves == before && rows[i].time < rows[i - 1].time) return false;
     }
   }

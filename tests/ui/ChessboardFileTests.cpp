@@ -34,7 +34,7 @@ class ChessboardFiles : public CommandTest {
   // What the program reads back at its next start.
   Settings Stored() {
     Settings stored;
-    LoadSettings(globals.IniFile, globals.IniFilePathName, globals.ProgramDirectory, stored);
+    LoadSettings(globals.IniFile.Values(), globals.ProgramDirectory, stored);
     return stored;
   }
 
@@ -134,7 +134,7 @@ TEST_F(ChessboardFiles, BringTheRestOfTheSettingsFileUpToDate) {
   globals.settings.SolveRefreshRate = 5;
   window.placement = {.Left = 150, .Top = 300, .Height = 4500, .Width = 4200, .State = 2};
   Open(FileWith("a.chessboard", CompleteLook));
-  const QByteArray stored = BytesOf(globals.IniFilePathName);
+  const QByteArray stored = BytesOf(globals.IniFile.PathName());
   const QByteArray directory = globals.ProgramDirectory.toUtf8();
   EXPECT_TRUE(
       stored.endsWith("[Settings]\r\nPrevious Directory=/games/\r\n"
@@ -150,7 +150,7 @@ TEST_F(ChessboardFiles, LeaveTheStoredWindowStateWhenMinimised) {
   FileWith("GallopadeNova.ini", "[Settings]\r\nState=2\r\n");
   window.minimised = true;
   Open(FileWith("a.chessboard", CompleteLook));
-  EXPECT_TRUE(BytesOf(globals.IniFilePathName).contains("State=2\r\n"));
+  EXPECT_TRUE(BytesOf(globals.IniFile.PathName()).contains("State=2\r\n"));
 }
 
 TEST_F(ChessboardFiles, LeaveHighlightingAndStartingPositionAlone) {

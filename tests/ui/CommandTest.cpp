@@ -26,7 +26,8 @@ void FoldRepaint(Steps& steps) {
 
 CommandTest::CommandTest() {
   globals.ProgramDirectory = directory_.path() + "/";
-  globals.IniFilePathName = globals.ProgramDirectory + "GallopadeNova.ini";
+  globals.IniFile = KeptFile(globals.ProgramDirectory + "GallopadeNova.ini");
+  globals.ScoreFile = KeptFile(globals.ProgramDirectory + "Scores.dat");
   globals.settings.PreviousDirectory = globals.ProgramDirectory;
   window.onEndGame = [this](const GameOverReport& report) { EndGame(context, report); };
 }

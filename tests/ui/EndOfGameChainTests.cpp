@@ -63,7 +63,7 @@ class EndOfGameChain : public EndgameDesk {
     EXPECT_TRUE(AllVisitsMade());
   }
   ScoreRow FirstHighScore() const {
-    return ReadScores(ProgramFile("Scores.dat"), "High Scores")[0];
+    return RowsFrom(KeptFile(ProgramFile("Scores.dat")).Values(), ScoreList::High)[0];
   }
   void ExpectGameAfter(Way scoresWay) {
     const bool isNewGame = scoresWay == Way::NewGame;
@@ -186,7 +186,7 @@ TEST_F(EndOfGameChain, OffersAGameToTheScoresOnlyOnce) {
   ExpectReplay();
   Choose("mnuEditRedo");
   EXPECT_TRUE(AllVisitsMade());
-  EXPECT_EQ(ReadScores(ProgramFile("Scores.dat"), "High Scores")[1].moves, "");
+  EXPECT_EQ(RowsFrom(KeptFile(ProgramFile("Scores.dat")).Values(), ScoreList::High)[1].moves, "");
 }
 
 TEST_F(EndOfGameChain, ShowsNoFireworkForADeadEnd) {
@@ -195,5 +195,5 @@ TEST_F(EndOfGameChain, ShowsNoFireworkForADeadEnd) {
   ExpectScores(Way::Close, NameIs::Typed);
   PlayOnBoard(Games::DeadEndAfter32);
   EXPECT_TRUE(AllVisitsMade());
-  EXPECT_EQ(ReadScores(ProgramFile("Scores.dat"), "Low Scores")[0].moves, "32");
+  EXPECT_EQ(RowsFrom(KeptFile(ProgramFile("Scores.dat")).Values(), ScoreList::Low)[0].moves, "32");
 }

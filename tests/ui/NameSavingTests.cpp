@@ -10,7 +10,9 @@ namespace {
 
 class NameSaving : public EndgameDesk {
  protected:
-  ScoreRows LowScores() const { return ReadScores(ProgramFile("Scores.dat"), "Low Scores"); }
+  ScoreRows LowScores() const {
+    return RowsFrom(KeptFile(ProgramFile("Scores.dat")).Values(), ScoreList::Low);
+  }
   QString FirstName() const { return LowScores()[0].name; }
 };
 
@@ -114,8 +116,9 @@ TEST_F(NameSaving, KeepsWhatAnotherCopyWroteMeanwhile) {
   Open();
   SubmitAGame([this](frmScores& scores) {
     TypeName(scores, "Ann");
-    SaveScore(ProgramFile("Scores.dat"), {20, 0, false}, "First");
-    SaveScore(ProgramFile("Scores.dat"), {19, 500, false}, "Better");
+    KeptFile other(ProgramFile("Scores.dat"));
+    SaveScore(other, ScoreList::Low, {20, 0}, "First");
+    SaveScore(other, ScoreList::Low, {19, 500}, "Better");
     Press(scores, "cmdClose");
   });
   const ScoreRows rows = LowScores();
@@ -209,7 +212,7 @@ TEST_F(NameSaving, KeepsANameOfSeveralLinesOnOne) {
     BoxOf(scores).setText("Ann\r\n[High Scores]\nName 1=Eve");
     Press(scores, "cmdClose");
   });
-  EXPECT_EQ(ReadScores(ProgramFile("Scores.dat"), "High Scores")[0].name, "");
+  EXPECT_EQ(RowsFrom(KeptFile(ProgramFile("Scores.dat")).Values(), ScoreList::High)[0].name, "");
   EXPECT_TRUE(FirstName().startsWith("Ann"));
   EXPECT_EQ(LowScores()[0].moves, "20");
 }

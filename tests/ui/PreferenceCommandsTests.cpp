@@ -15,7 +15,7 @@ class PreferenceCommands : public CommandTest {
   QStringList Keys() {
     QStringList keys;
     QString section;
-    for (const QString& line : QString(BytesOf(globals.IniFilePathName)).split("\r\n")) {
+    for (const QString& line : QString(BytesOf(globals.IniFile.PathName())).split("\r\n")) {
       if (line.startsWith('[')) section = line;
       if (line.contains('=')) keys << section + line.section('=', 0, 0);
     }
@@ -35,7 +35,7 @@ class PreferenceCommands : public CommandTest {
 
 TEST_F(PreferenceCommands, ApplyAfterTheyAreStored) {
   Begin();
-  window.onLoadGameSetup = [this] { EXPECT_TRUE(QFile::exists(globals.IniFilePathName)); };
+  window.onLoadGameSetup = [this] { EXPECT_TRUE(QFile::exists(globals.IniFile.PathName())); };
   ApplyPreferences(context);
   EXPECT_EQ(TakeLog(), (Steps{"LoadGameSetup", "RepaintWholeBoard", "Form_Resize"}));
 }
@@ -77,7 +77,7 @@ TEST_F(PreferenceCommands, KeepWhatChangedOutsideThemSinceTheStart) {
   globals.settings.PreviousDirectory = "/games/";
   ApplyPreferences(context);
   Settings reloaded;
-  LoadSettings(globals.IniFile, globals.IniFilePathName, globals.ProgramDirectory, reloaded);
+  LoadSettings(globals.IniFile.Values(), globals.ProgramDirectory, reloaded);
   EXPECT_FALSE(reloaded.ShowTime);
   EXPECT_FALSE(reloaded.ShowScore);
   EXPECT_EQ(reloaded.SolveRefreshRate, 77);
@@ -87,13 +87,13 @@ TEST_F(PreferenceCommands, KeepWhatChangedOutsideThemSinceTheStart) {
 TEST_F(PreferenceCommands, LeaveForeignLinesAlone) {
   FileWith("GallopadeNova.ini", "; mine\r\n[Replay]\r\nAdvance Speed=7\r\n[Other]\r\nA=1\r\n");
   ApplyPreferences(context);
-  EXPECT_TRUE(BytesOf(globals.IniFilePathName)
+  EXPECT_TRUE(BytesOf(globals.IniFile.PathName())
                   .startsWith("; mine\r\n[Replay]\r\nAdvance Speed=7\r\n[Other]\r\nA=1\r\n"));
 }
 
 TEST_F(PreferenceCommands, ApplyEvenWhenTheyCannotBeStored) {
   Begin();
-  QDir().mkpath(globals.IniFilePathName);
+  QDir().mkpath(globals.IniFile.PathName());
   ApplyPreferences(context);
   EXPECT_EQ(TakeLog(), (Steps{"LoadGameSetup", "RepaintWholeBoard", "Form_Resize"}));
 }
@@ -105,14 +105,14 @@ TEST_F(PreferenceCommands, AskBeforeTheDefaultsAreRestored) {
   EXPECT_EQ(TakeLog(), Steps{Line("Gallopade Nova",
                                   "Are you sure you want to restore the default configuration?",
                                   DefaultAnswer::No)});
-  EXPECT_FALSE(BytesOf(globals.IniFilePathName).isEmpty());
+  EXPECT_FALSE(BytesOf(globals.IniFile.PathName()).isEmpty());
 }
 
 TEST_F(PreferenceCommands, RestoreTheDefaultsByDeletingTheSettingsFile) {
   FileWith("GallopadeNova.ini", "[Settings]\r\nShow Time=0\r\n");
   Begin();
   window.answers = {PlayerSays::Yes};
-  window.onLoadGameSetup = [this] { EXPECT_FALSE(QFile::exists(globals.IniFilePathName)); };
+  window.onLoadGameSetup = [this] { EXPECT_FALSE(QFile::exists(globals.IniFile.PathName())); };
   EXPECT_TRUE(RestoreDefaultConfiguration(context));
   const Steps steps = TakeLog();
   EXPECT_EQ(Steps(steps.begin() + 1, steps.end()),

@@ -77,10 +77,7 @@ QString PreferencesDesk::PictureFile(const QString& name, const QColor& color) {
 }
 
 QString PreferencesDesk::Stored(const QString& section, const QString& key) const {
-  QString value;
-  QString ignoredError;
-  globals.IniFile.ReadIniFileValue(globals.IniFilePathName, section, key, value, ignoredError);
-  return value;
+  return clsIniFile().ReadIniFileValues(globals.IniFile.PathName()).Value(section, key);
 }
 
 // Near its left end, where options have their circle.

@@ -33,8 +33,8 @@ GameOverAnswer RecordingWindows::ShowGameOver(const GameOverReport& report) {
 ScoresAnswer RecordingWindows::ShowScores(ScoreList list, std::optional<FinishedGame> finished) {
   std::string details = list == ScoreList::High ? "high" : "low";
   if (finished) {
-    details += "|" + std::to_string(finished->moveCount) + "|" +
-               std::to_string(finished->elapsedHalfSeconds);
+    details +=
+        "|" + std::to_string(finished->totalMoves) + "|" + std::to_string(finished->totalTime);
   }
   Show("frmScores", details);
   return scoresAnswer;

@@ -77,7 +77,7 @@ TEST_F(ReplayClosing, KeepsTheTextOfASpeedThatWasNotTouched) {
 }
 
 TEST_F(ReplayClosing, SaysNothingWhenTheSettingsCannotBeKept) {
-  globals.IniFilePathName = FilePath("no such folder/GallopadeNova.ini");
+  globals.IniFile = KeptFile(FilePath("no such folder/GallopadeNova.ini"));
   Watch(10, [&](frmReplay& replay) {
     Close(replay, PlayerSays::No);
     EXPECT_FALSE(replay.isVisible());

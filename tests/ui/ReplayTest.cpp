@@ -6,18 +6,13 @@
 #include "ui/commands/Replay.h"
 
 void ReplayTest::Keep(const QString& advanceSpeed, const QString& advancement) {
-  QString error;
-  globals.IniFile.WriteIniFileValues(
-      globals.IniFilePathName,
-      {{"Replay", "Advance Speed", advanceSpeed}, {"Replay", "Advancement", advancement}}, error);
-  ASSERT_EQ(error, QString());
+  globals.IniFile.Change(
+      {{"Replay", "Advance Speed", advanceSpeed}, {"Replay", "Advancement", advancement}});
+  ASSERT_TRUE(globals.IniFile.IsSaved());
 }
 
 QString ReplayTest::Kept(const char* key) const {
-  QString value;
-  QString error;
-  globals.IniFile.ReadIniFileValue(globals.IniFilePathName, "Replay", key, value, error);
-  return value;
+  return clsIniFile().ReadIniFileValues(globals.IniFile.PathName()).Value("Replay", key);
 }
 
 void ReplayTest::Watch(const Watching& watching) {

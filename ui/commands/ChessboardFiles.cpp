@@ -1,6 +1,9 @@
 #include "ui/commands/ChessboardFiles.h"
 
+#include <tuple>
+
 #include "storage/ChessboardFile.h"
+#include "storage/clsIniFile.h"
 
 namespace {
 
@@ -8,13 +11,12 @@ constexpr const char* ChessboardFilter =
     "Gallopade Nova Chessboards (*.chessboard;*.che)|*.chessboard;*.che|All Files (*.*)|*.*";
 
 void StoreEverything(const CommandContext& context) {
-  const Globals& globals = context.globals;
+  Globals& globals = context.globals;
   std::vector<IniEntry> entries = ChessboardEntries(globals.settings);
   const std::vector<IniEntry> rest =
       ExitEntries(globals.settings, context.window.Placement(), context.window.IsMinimised());
   entries.insert(entries.end(), rest.begin(), rest.end());
-  QString ignoredError;
-  globals.IniFile.WriteIniFileValues(globals.IniFilePathName, entries, ignoredError);
+  globals.IniFile.Change(entries);
 }
 
 }  // namespace
@@ -27,7 +29,7 @@ void mnuEditChessboardOpen_Click(const CommandContext& context) {
       {.directory = directory, .filter = ChessboardFilter, .mustExist = false});
   if (fileName.isEmpty()) return;
   directory = DirectoryOf(fileName);
-  LoadChessboard(context.globals.IniFile.ReadIniFileValues(fileName), settings);
+  LoadChessboard(clsIniFile().ReadIniFileValues(fileName), settings);
   // Pictures that end the program must not be named by the settings that it starts with.
   context.window.LoadPictures();
   StoreEverything(context);
@@ -43,5 +45,5 @@ void mnuEditChessboardSave_Click(const CommandContext& context) {
   const QString fileName = context.dialogs.SaveFile({directory, ChessboardFilter});
   if (fileName.isEmpty()) return;
   directory = DirectoryOf(fileName);
-  SaveChessboard(fileName, context.globals.settings);
+  std::ignore = SaveChessboard(fileName, context.globals.settings);
 }

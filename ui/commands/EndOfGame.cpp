@@ -11,10 +11,9 @@ void SendScores(const CommandContext& context, const GameOverReport& report) {
 }
 
 ScoresAnswer SubmitToScores(const CommandContext& context, const GameOverReport& report) {
-  const ScoreList list = report.moveCount > MostLowMoves ? ScoreList::High : ScoreList::Low;
   context.game.ExcludeFromScores();  // a game is submitted once only
   const FinishedGame finished{report.moveCount, report.elapsedHalfSeconds};
-  return context.windows.ShowScores(list, finished);
+  return context.windows.ShowScores(ListOf(finished), finished);
 }
 
 void cmdScoresReplay_Click(const CommandContext& context, const GameOverReport& report) {

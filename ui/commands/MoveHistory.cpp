@@ -1,5 +1,7 @@
 #include "ui/commands/MoveHistory.h"
 
+#include <tuple>
+
 #include "app/Globals.h"
 #include "storage/FileWriter.h"
 #include "storage/MoveListExport.h"
@@ -16,7 +18,7 @@ void ExportMoves(const CommandContext& context, const QStringList& lines) {
   const QString fileName = context.dialogs.SaveFile({directory, ExportFilter});
   if (fileName.isEmpty()) return;
   directory = DirectoryOf(fileName);
-  WriteFile(fileName, ExportedMoveList(lines, fileName, ShortVersion()));
+  std::ignore = WriteFile(fileName, ExportedMoveList(lines, fileName, ShortVersion()));
 }
 
 void ReportPrintingFailure(const CommandContext& context) {

@@ -2,12 +2,9 @@
 
 #include <cmath>
 
-#include <QFile>
-
 #include "core/NumberText.h"
 #include "core/Twips.h"
 #include "storage/NumberParser.h"
-#include "storage/OwnFiles.h"
 
 namespace {
 
@@ -24,12 +21,11 @@ QString FrameWidthPrompt() {
 }  // namespace
 
 void ApplyPreferences(const CommandContext& context) {
-  const Globals& globals = context.globals;
+  Globals& globals = context.globals;
   std::vector<IniEntry> entries = PreferencesEntries(globals.settings);
   const std::vector<IniEntry> session = SessionEntries(globals.settings);
   entries.insert(entries.end(), session.begin(), session.end());
-  QString ignoredError;
-  globals.IniFile.WriteIniFileValues(globals.IniFilePathName, entries, ignoredError);
+  globals.IniFile.Change(entries);
   context.window.LoadGameSetup();
   context.game.RepaintWholeBoard();
   context.window.Form_Resize();
@@ -41,7 +37,7 @@ bool RestoreDefaultConfiguration(const CommandContext& context) {
                           DefaultAnswer::No)) {
     return false;
   }
-  QFile::remove(context.globals.IniFilePathName);
+  context.globals.IniFile.Clear();
   context.window.LoadGameSetup();
   context.game.RepaintWholeBoard();
   context.window.Form_Resize();
@@ -52,7 +48,7 @@ bool RestoreDefaultConfiguration(const CommandContext& context) {
 void ClearScoreLists(const CommandContext& context) {
   if (context.window.Ask("Gallopade Nova", "Are you sure you want to clear the score lists?",
                          DefaultAnswer::No)) {
-    QFile::remove(context.globals.ProgramDirectory + ScoreFileName);
+    context.globals.ScoreFile.Clear();
   }
 }
 

@@ -1,20 +1,14 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 
 #include <QString>
 
 #include "core/GameWindow.h"
+#include "storage/ScoreLists.h"
 
 enum class GameOverAnswer { MainButton, Undo };
-enum class ScoreList { High, Low };
 enum class ScoresAnswer { Close, NewGame, Replay };
-
-struct FinishedGame {
-  std::int16_t moveCount;
-  std::int32_t elapsedHalfSeconds;
-};
 
 // The program's other windows, each shown modally: a call returns when its window is closed.
 class SecondaryWindows {

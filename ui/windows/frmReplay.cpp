@@ -120,7 +120,7 @@ void frmReplay::StartWith(int Total) {
   lblMoveValue_->ShowValue(1);
   lblMoveValue_Change();
   const Globals& globals = context_.globals;
-  const ReplaySettings kept = ReadReplaySettings(globals.IniFile, globals.IniFilePathName);
+  const ReplaySettings kept = ReplaySettingsFrom(globals.IniFile.Values());
   hsclSpeedSeekSet_->setProperty(Tag, kept.AdvanceSpeed);
   optAdvance_[kept.manual ? Manual : Automatic]->setChecked(true);
   // The manual mode has just put the bar's value there.
@@ -281,9 +281,6 @@ void frmReplay::SaveSettings() {
   if (IsAutomatic()) {
     hsclSpeedSeekSet_->setProperty(Tag, QString::number(hsclSpeedSeekSet_->value()));
   }
-  const Globals& globals = context_.globals;
-  QString ignoredError;
-  globals.IniFile.WriteIniFileValues(
-      globals.IniFilePathName,
-      ReplayEntries({hsclSpeedSeekSet_->property(Tag).toString(), !IsAutomatic()}), ignoredError);
+  context_.globals.IniFile.Change(
+      ReplayEntries({hsclSpeedSeekSet_->property(Tag).toString(), !IsAutomatic()}));
 }

@@ -53,13 +53,13 @@ GameOverAnswer ScreenWindows::ShowGameOver(const GameOverReport& report) {
 
 ScoresAnswer ScreenWindows::ShowScores(ScoreList list, std::optional<FinishedGame> finished) {
   frmScores window(mainWindow_.Context(), &mainWindow_);
-  const bool highScore = list == ScoreList::High;
-  if (highScore) {
+  const bool isHigh = list == ScoreList::High;
+  if (isHigh) {
     window.LoadHigh();
   } else {
     window.LoadLow();
   }
-  if (finished) window.SendScore(finished->moveCount, finished->elapsedHalfSeconds, highScore);
+  if (finished) window.SendScore(finished->totalMoves, finished->totalTime, isHigh);
   return static_cast<ScoresAnswer>(window.exec());
 }
 

@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include "storage/AttemptMark.h"
+#include "storage/PathName.h"
 #include "ui/application/AccessibleDialog.h"
 #include "ui/application/DoEvents.h"
 #include "ui/board/BoardView.h"
@@ -48,8 +49,8 @@ frmGame::~frmGame() = default;
 void frmGame::Form_Load(const QString& commandLine) {
   game_.Form_Load([this] { SetUp(); });
   ShowWindow();
-  if (const auto fileName = GameFileOf(commandLine.toStdString())) {
-    OpenGameFile(QString::fromStdString(*fileName));
+  if (const auto fileName = GameFileOf(BytesOfPath(commandLine).toStdString())) {
+    OpenGameFile(PathFromBytes(QByteArray::fromStdString(*fileName)));
   }
 }
 
@@ -164,7 +165,7 @@ void frmGame::Exit() {
 
 void frmGame::LoadGameSetup() {
   Settings& settings = globals_.settings;
-  LoadSettings(globals_.IniFile, globals_.IniFilePathName, globals_.ProgramDirectory, settings);
+  LoadSettings(globals_.IniFile.Values(), globals_.ProgramDirectory, settings);
   SetMenuChecked(MenuEntry::mnuViewTime, settings.ShowTime);
   SetMenuChecked(MenuEntry::mnuViewScore, settings.ShowScore);
   board_->SetCornerDistance(settings.CornerDistance);
@@ -192,8 +193,5 @@ void frmGame::OpenGameFile(const QString& fileName) {
 }
 
 void frmGame::SaveSettings() {
-  QString ignoredError;
-  globals_.IniFile.WriteIniFileValues(globals_.IniFilePathName,
-                                      ExitEntries(globals_.settings, Placement(), IsMinimised()),
-                                      ignoredError);
+  globals_.IniFile.Change(ExitEntries(globals_.settings, Placement(), IsMinimised()));
 }

@@ -20,6 +20,7 @@
 #include "ui/widgets/pictures/PictureReader.h"
 #include "ui/windows/game/GameMenu.h"
 #include "ui/windows/game/HalfSecondTimer.h"
+#include "ui/windows/game/LateSaving.h"
 #include "ui/windows/game/ScreenDialogs.h"
 #include "ui/windows/game/ScreenWindows.h"
 
@@ -110,7 +111,8 @@ class frmGame : public QMainWindow, public MainWindow {
   ScreenDialogs dialogs_;
   ScreenWindows windows_;
   CommandContext context_;
-  std::unique_ptr<frmHelp> help_;  // made on first use
+  std::optional<LateSaving> lateSaving_;  // once the files have their names
+  std::unique_ptr<frmHelp> help_;         // made on first use
   HelpKey helpKey_;
   ButtonKeys buttonKeys_;
   FocusReturn focusReturn_;

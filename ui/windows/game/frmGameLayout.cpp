@@ -56,8 +56,10 @@ void frmGame::CreateBoard() {
 }
 
 void frmGame::OpenSettingsAndPlaceWindow() {
-  globals_.IniFilePathName = globals_.ProgramDirectory + SettingsFileName;
-  ApplyPlacement(ReadWindowPlacement(globals_.IniFile, globals_.IniFilePathName));
+  globals_.IniFile = KeptFile(globals_.ProgramDirectory + SettingsFileName);
+  globals_.ScoreFile = KeptFile(globals_.ProgramDirectory + ScoreFileName);
+  lateSaving_.emplace(globals_);
+  ApplyPlacement(WindowPlacementFrom(globals_.IniFile.Values()));
 }
 
 void frmGame::ApplyPlacement(const WindowPlacement& placement) {

@@ -10,7 +10,6 @@
 #include <QVBoxLayout>
 
 #include "core/NumberText.h"
-#include "storage/OwnFiles.h"
 #include "ui/widgets/WindowPlacing.h"
 #include "ui/widgets/pictures/PictureReader.h"
 #include "ui/windows/scores/CoverPicture.h"
@@ -53,8 +52,7 @@ double ScaleFor(const QSize& table) {
 
 frmScores::frmScores(const CommandContext& context, QWidget* mainWindow)
     : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
-      context_(context),
-      pathName_(context.globals.ProgramDirectory + ScoreFileName) {
+      context_(context) {
   setObjectName("frmScores");
   auto* layout = new QVBoxLayout(this);
   layout->setSizeConstraint(QLayout::SetFixedSize);
@@ -133,16 +131,17 @@ QPushButton* frmScores::AddButton(const char* name, const char* caption,
 }
 
 void frmScores::LoadHigh() {
-  Load(true);
+  Load(ScoreList::High);
 }
 
 void frmScores::LoadLow() {
-  Load(false);
+  Load(ScoreList::Low);
 }
 
-void frmScores::Load(bool highScore) {
-  setWindowTitle(ScoreSection(highScore));
-  rows_ = ReadScores(pathName_, windowTitle());
+void frmScores::Load(ScoreList list) {
+  list_ = list;
+  setWindowTitle(ScoreSection(list));
+  rows_ = RowsFrom(context_.globals.ScoreFile.Values(), list);
   for (int row = 0; row < RowCount; ++row) {
     ShowRow(row);
     if (!rows_[Index(row)].name.isEmpty()) table_->At(row).lblNumbers->setText(RowNumber(row));
@@ -164,13 +163,14 @@ void frmScores::SendScore(std::int16_t TotalMoves, std::int32_t TotalTime, bool 
   for (int row = 0; row < RowCount; ++row) table_->SetRed(row, false);
   txtHighScore_->hide();
 
-  const OfferedGame game{TotalMoves, TotalTime, HighScore};
-  const int place = InsertionPlace(rows_, game);
+  list_ = HighScore ? ScoreList::High : ScoreList::Low;
+  const FinishedGame game{TotalMoves, TotalTime};
+  const int place = InsertionPlace(list_, rows_, game);
   inserted_.reset();
   if (place < RowCount) Insert(game, place);
 }
 
-void frmScores::Insert(const OfferedGame& game, int place) {
+void frmScores::Insert(const FinishedGame& game, int place) {
   InsertScore(rows_, place, RowOf(game, QString()));
   for (int row = 0; row < RowCount; ++row) {
     ShowRow(row);
@@ -266,7 +266,8 @@ void frmScores::Answer(ScoresAnswer answer) {
 void frmScores::done(int result) {
   const bool pending = !txtHighScore_->isHidden() && HoldsName();
   if (pending && !txtHighScore_Validate()) return;
-  if (inserted_) SaveScore(pathName_, *inserted_, HoldsName() ? txtHighScore_->text() : QString());
+  const QString name = HoldsName() ? txtHighScore_->text() : QString();
+  if (inserted_) SaveScore(context_.globals.ScoreFile, list_, *inserted_, name);
   inserted_.reset();
   QDialog::done(result);
 }

@@ -52,8 +52,8 @@ class frmScores : public QDialog {
   QWidget* AddBackgroundCorner(int height);
   QHBoxLayout* AddButtons();
   QPushButton* AddButton(const char* name, const char* caption, void (frmScores::*handler)());
-  void Load(bool highScore);
-  void Insert(const OfferedGame& game, int place);
+  void Load(ScoreList list);
+  void Insert(const FinishedGame& game, int place);
   void ShowRow(int row);
   void ShowNameBox();
   void FitNameBox();
@@ -61,7 +61,6 @@ class frmScores : public QDialog {
   void Answer(ScoresAnswer answer);
 
   const CommandContext& context_;
-  const QString pathName_;
   QImage picture_;
   CoverPicture* picBackground_ = nullptr;
   ScoreTable* table_ = nullptr;
@@ -71,7 +70,8 @@ class frmScores : public QDialog {
   QPushButton* cmdReplay_ = nullptr;
   QPushButton* cmdClose_ = nullptr;
 
+  ScoreList list_ = ScoreList::High;
   ScoreRows rows_;
-  std::optional<OfferedGame> inserted_;  // the list has changed
-  int editedRow_ = 0;                    // of the inserted game
+  std::optional<FinishedGame> inserted_;  // the list has changed
+  int editedRow_ = 0;                     // of the inserted game
 };
