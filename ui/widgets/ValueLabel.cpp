@@ -1,5 +1,7 @@
 #include "ui/widgets/ValueLabel.h"
 
+#include <utility>
+
 #include <QAccessibleWidget>
 #include <QEvent>
 #include <QPainter>
@@ -66,9 +68,11 @@ void ValueLabel::ShowValue(std::int64_t value, Wording wording) {
   if (!tellScreenReader_.isActive()) tellScreenReader_.start();
 }
 
-// On a screen with another scale everything is drawn anew.
+// On a screen with another scale everything is drawn anew, and in the other colours that a style
+// may have for windows that are not the active one.
 void ValueLabel::paintEvent(QPaintEvent*) {
-  if (background_.devicePixelRatio() != devicePixelRatio()) Forget();
+  const Look look{devicePixelRatio(), palette().cacheKey(), palette().currentColorGroup()};
+  if (std::exchange(look_, look) != look) Forget();
   if (background_.isNull()) DrawBackground();
   QPainter painter(this);
   painter.drawPixmap(0, 0, background_);

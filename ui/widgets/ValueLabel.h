@@ -36,6 +36,13 @@ class ValueLabel : public QWidget {
   void moveEvent(QMoveEvent* event) override;
 
  private:
+  struct Look {
+    double devicePixelRatio = 0;
+    qint64 palette = 0;
+    QPalette::ColorGroup group = QPalette::Active;
+    bool operator==(const Look&) const = default;
+  };
+
   void Forget();
   void DrawBackground();
   const QPixmap& Character(QChar character);
@@ -44,6 +51,7 @@ class ValueLabel : public QWidget {
   Wording wording_ = AsNumber;
   PacedPicture picture_;
   QTimer tellScreenReader_;
+  Look look_;           // that of what was drawn before
   QPixmap background_;  // what its parent shows there, made when first needed
   std::map<QChar, QPixmap> characters_;
 };
