@@ -29,6 +29,8 @@ int main(int argumentCount, char* arguments[]) {
   QApplication::setApplicationVersion(PROGRAM_VERSION);
   QApplication::setDesktopFileName("GallopadeNova");
   QApplication::setWindowIcon(ProgramIcon());
+  // The texts are English on every desktop, and A8 is at the top left of every board.
+  QApplication::setLayoutDirection(Qt::LeftToRight);
 
   Globals globals;
   globals.ProgramDirectory = QCoreApplication::applicationDirPath() + "/";
