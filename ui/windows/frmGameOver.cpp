@@ -1,9 +1,9 @@
 #include "ui/windows/frmGameOver.h"
 
-#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
+#include <QVBoxLayout>
 
 #include "ui/widgets/WindowPlacing.h"
 
@@ -50,14 +50,16 @@ frmGameOver::frmGameOver(const GameOverReport& report, QWidget* mainWindow)
     button->setMinimumWidth(button->sizeHint().width() + ButtonPadding);
     buttons->addWidget(button);
   }
-  auto* layout = new QGridLayout(this);
+  auto* iconAndMessage = new QHBoxLayout;
+  iconAndMessage->setSpacing(Margin);
+  iconAndMessage->addWidget(imgIcon, 0, Qt::AlignTop);
+  iconAndMessage->addWidget(lblMessage, 1, Qt::AlignVCenter);
+  auto* layout = new QVBoxLayout(this);
   layout->setSizeConstraint(QLayout::SetFixedSize);
   layout->setContentsMargins(Margin, Margin, Margin, Margin);
-  layout->setHorizontalSpacing(Margin);
-  layout->setVerticalSpacing(Margin);
-  layout->addWidget(imgIcon, 0, 0, Qt::AlignTop);
-  layout->addWidget(lblMessage, 0, 1, Qt::AlignVCenter);
-  layout->addLayout(buttons, 1, 0, 1, 2);
+  layout->setSpacing(Margin);
+  layout->addLayout(iconAndMessage);
+  layout->addLayout(buttons);
   cmdScoresReplay->setFocus();
   PlaceDialog(*this, *mainWindow);
 }

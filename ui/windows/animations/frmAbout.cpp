@@ -3,10 +3,11 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFontInfo>
-#include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
 
 #include "app/Globals.h"
 #include "core/NumberText.h"
@@ -29,8 +30,10 @@ constexpr const char* Owner = "Made by the Gallopade Nova contributors. MIT lice
 constexpr QSize PictureSize(300, 225);
 // On a desktop of the usual letters; with those of the desktop they grow and shrink.
 constexpr int TextWidth = 300;
+constexpr int SmallestTextWidth = 200;
 constexpr double UsualPoints = 9;
 constexpr int Gap = 16;
+constexpr int BarAndFrame = 32;
 constexpr int IconSide = 128;
 // A pass costs a fraction of a millisecond, so this leaves nearly all of a core to others.
 constexpr int DrawIntervalMilliseconds = 40;
@@ -44,6 +47,12 @@ QString VersionText() {
 
 double LetterScale() {
   return QFontInfo(QApplication::font()).pointSizeF() / UsualPoints;
+}
+
+// No wider than there is room beside the picture, but for a bar to scroll with.
+int TextWidthOn(int screenWidth) {
+  const int room = screenWidth - PictureSize.width() - 3 * Gap - BarAndFrame;
+  return std::max(std::min(qRound(TextWidth * LetterScale()), room), SmallestTextWidth);
 }
 
 QFont Arial(int points) {
@@ -88,14 +97,16 @@ frmAbout::frmAbout(const Globals& globals, bool manyColors, QWidget* mainWindow)
   tmrAnimation_.setInterval(DrawIntervalMilliseconds);
   connect(&tmrAnimation_, &QTimer::timeout, this, &frmAbout::Animate);
 
-  auto* layout = new QGridLayout(this);
+  auto* pictureAndTexts = new QHBoxLayout;
+  pictureAndTexts->setSpacing(Gap);
+  pictureAndTexts->addWidget(picAboutImage_, 0, Qt::AlignTop);
+  pictureAndTexts->addLayout(AddTexts());
+  auto* layout = new QVBoxLayout(this);
   layout->setSizeConstraint(QLayout::SetFixedSize);
   layout->setContentsMargins(Gap, Gap, Gap, Gap);
-  layout->setHorizontalSpacing(Gap);
-  layout->setVerticalSpacing(Gap);
-  layout->addWidget(picAboutImage_, 0, 0, Qt::AlignTop);
-  layout->addLayout(AddTexts(), 0, 1);
-  layout->addWidget(cmdOK, 1, 0, 1, 2, Qt::AlignRight);
+  layout->setSpacing(Gap);
+  layout->addLayout(pictureAndTexts);
+  layout->addWidget(cmdOK, 0, Qt::AlignRight);
   Form_Load();
   PlaceDialog(*this, *mainWindow);
 }
@@ -120,7 +131,7 @@ QLabel* frmAbout::AddLabel(const char* name, const QString& text, int points) {
   label->setTextFormat(Qt::PlainText);
   label->setFont(Arial(points));
   label->setWordWrap(true);
-  label->setFixedWidth(qRound(TextWidth * LetterScale()));
+  label->setFixedWidth(TextWidthOn(screen()->availableSize().width()));
   return label;
 }
 

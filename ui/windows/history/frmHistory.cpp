@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -46,7 +47,8 @@ frmHistory::frmHistory(const CommandContext& context, QWidget* mainWindow)
   layout->addWidget(lstMoves_);
   layout->addLayout(buttons);
   const int row = fontMetrics().height();
-  lstMoves_->setMinimumSize(ListWidthInRows * row, VisibleRows * row);
+  lstMoves_->setMinimumSize(
+      QSize(ListWidthInRows * row, VisibleRows * row).boundedTo(screen()->availableSize() / 2));
   lstMoves_->setFocus();
   PlaceDialog(*this, *mainWindow);
 }

@@ -83,6 +83,8 @@ void ShowSamples(const QMenu& menu) {
 PreferenceMenus::PreferenceMenus(QWidget* parent)
     : mnuSystemColors_(new QMenu(parent)), mnuImageOptions_(new QMenu(parent)) {
   mnuSystemColors_->setObjectName("mnuSystemColors");
+  // Higher than a small screen it would break into columns.
+  mnuSystemColors_->setStyleSheet("QMenu { menu-scrollable: 1; }");
   mnuSystemColors_->setAccessibleName("System Colors");
   for (int index = 0; index < SystemColorCount; ++index) {
     AddEntry(*mnuSystemColors_, index, SystemColorNames[index]);

@@ -36,14 +36,16 @@ QButtonGroup* AddOptions(QGroupBox* frame, QGridLayout& layout, const QString& n
 }  // namespace
 
 void frmPreferences::AddControls() {
-  auto* layout = new QGridLayout(this);
+  auto* frames = new QGridLayout;
+  frames->setHorizontalSpacing(ColumnGap);
+  frames->addWidget(AddChessboardFrame(), 0, 0);
+  frames->addWidget(AddHighlightFrame(), 1, 0);
+  frames->addWidget(AddPositionFrame(), 0, 1);
+  frames->addWidget(AddProgramFrame(), 1, 1);
+  auto* layout = new QVBoxLayout(this);
   layout->setSizeConstraint(QLayout::SetFixedSize);
-  layout->setHorizontalSpacing(ColumnGap);
-  layout->addWidget(AddChessboardFrame(), 0, 0);
-  layout->addWidget(AddHighlightFrame(), 1, 0);
-  layout->addWidget(AddPositionFrame(), 0, 1);
-  layout->addWidget(AddProgramFrame(), 1, 1);
-  layout->addLayout(AddClosingButtons(), 2, 0, 1, 2);
+  layout->addLayout(frames);
+  layout->addLayout(AddClosingButtons());
 }
 
 QGroupBox* frmPreferences::AddChessboardFrame() {

@@ -242,9 +242,9 @@ void frmScores::FixText(std::optional<int> row) {
 }
 
 void frmScores::mouseReleaseEvent(QMouseEvent* event) {
-  const QPoint place = event->position().toPoint();
-  if (event->button() != Qt::LeftButton || !picBackground_->geometry().contains(place)) return;
-  FixText(table_->RowOf(childAt(place)));
+  const QWidget* clicked = childAt(event->position().toPoint());
+  const bool isInside = clicked == picBackground_ || picBackground_->isAncestorOf(clicked);
+  if (event->button() == Qt::LeftButton && isInside) FixText(table_->RowOf(clicked));
 }
 
 void frmScores::cmdNewGame_Click() {

@@ -1,0 +1,89 @@
+#include "ui/widgets/DialogFitting.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QDialog>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+
+namespace {
+
+// As large as what it shows, and not larger than its room. The keyboard goes through what it shows
+// and takes the view along.
+class ScrollingRows : public QScrollArea {
+ public:
+  ScrollingRows(QWidget& rows, QWidget* parent) : QScrollArea(parent) {
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setWidget(&rows);
+    viewport()->setAutoFillBackground(false);
+    rows.setAutoFillBackground(false);
+    setFocusPolicy(HasStops(rows) ? Qt::NoFocus : Qt::StrongFocus);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* focused) {
+      if (widget()->isAncestorOf(focused)) ensureWidgetVisible(focused);
+    });
+  }
+
+  void SetRoom(const QSize& room) {
+    room_ = room;
+    updateGeometry();
+  }
+
+  // A bar at one side takes room from the other.
+  QSize sizeHint() const override {
+    const QSize rows = widget()->sizeHint();
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this) +
+                    style()->pixelMetric(QStyle::PM_ScrollView_ScrollBarSpacing, nullptr, this);
+    const QSize beside(rows.height() > room_.height() ? bar : 0,
+                       rows.width() > room_.width() ? bar : 0);
+    return (rows + beside).boundedTo(room_);
+  }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ private:
+  static bool HasStops(const QWidget& rows) {
+    const auto widgets = rows.findChildren<QWidget*>();
+    return std::any_of(widgets.begin(), widgets.end(), [](const QWidget* widget) {
+      return (widget->focusPolicy() & Qt::TabFocus) != 0;
+    });
+  }
+
+  QSize room_;
+};
+
+void MoveRow(QBoxLayout& from, QBoxLayout& to) {
+  const int stretch = from.stretch(0);
+  QLayoutItem* row = from.takeAt(0);
+  if (QLayout* layout = row->layout()) {
+    layout->setParent(nullptr);
+    to.addLayout(layout, stretch);
+  } else if (QWidget* widget = row->widget()) {
+    to.addWidget(widget, stretch, row->alignment());
+    delete row;
+  } else {
+    to.addItem(row);
+  }
+}
+
+}  // namespace
+
+void FitDialog(QDialog& dialog, const QSize& room) {
+  auto* column = qobject_cast<QBoxLayout*>(dialog.layout());
+  if (column == nullptr) return;
+  const QSize needed = column->totalMinimumSize();
+  if (needed.boundedTo(room) == needed) return;
+
+  auto* rows = new QWidget;
+  auto* inner = new QVBoxLayout(rows);
+  inner->setContentsMargins(0, 0, 0, 0);
+  inner->setSpacing(column->spacing());
+  while (column->count() > 1) MoveRow(*column, *inner);
+  auto* area = new ScrollingRows(*rows, &dialog);
+  column->insertWidget(0, area);
+  const QSize around(column->contentsMargins().left() + column->contentsMargins().right(),
+                     needed.height() - inner->totalMinimumSize().height());
+  area->SetRoom(room - around);
+}
