@@ -1,24 +1,26 @@
 #include "ui/help/frmHelp.h"
 
 #include <QAction>
-#include <QGuiApplication>
 #include <QHelpContentWidget>
 #include <QLabel>
 #include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
-#include <QWindow>
 
 #include "storage/OwnFiles.h"
+#include "ui/help/HelpIcons.h"
 #include "ui/help/HelpIndex.h"
 #include "ui/help/HelpPage.h"
 #include "ui/help/HelpSearch.h"
+#include "ui/widgets/WindowPlacing.h"
 
 namespace {
 
+constexpr int SmallestWidthInRows = 36;
 constexpr const char* FirstPage = "welcome.html";
 
 QSize DesignedSize(const QWidget& window) {
@@ -47,6 +49,11 @@ frmHelp::frmHelp(const QString& programDirectory, QWidget* parent)
 }
 
 frmHelp::~frmHelp() = default;
+
+void frmHelp::PlaceBesideGame(const QWidget& game) {
+  PlaceBesideWindow(*this, game, fontMetrics().height() * SmallestWidthInRows);
+  place_ = pos();
+}
 
 void frmHelp::BuildError() {
   auto* label = new QLabel(QString("The help file ") + HelpFileName + " could not be opened.\n\n" +
@@ -89,6 +96,10 @@ QWidget* frmHelp::BuildSide() {
   side_ = new QTabWidget;
   side_->setObjectName("helpSide");
   side_->setAccessibleName("Ways to find a page");
+  // The tabs are seen whole, however large their letters.
+  side_->setElideMode(Qt::ElideNone);
+  side_->setUsesScrollButtons(false);
+  side_->tabBar()->installEventFilter(this);
   side_->addTab(contents_, "&Contents");
   side_->addTab(index, "&Index");
   side_->addTab(search, "&Search");
@@ -112,25 +123,25 @@ void frmHelp::BuildToolBar() {
   bar->setMovable(false);
   bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
-  const auto add = [&](const char* name, const QString& text, const QIcon& icon,
+  const auto add = [&](const char* name, const QString& text, HelpIcon icon,
                        const QKeySequence& keys, auto action) {
-    QAction* entry = bar->addAction(icon, text);
+    QAction* entry = bar->addAction(IconOf(icon), text);
     entry->setObjectName(name);
     entry->setShortcut(keys);
     entry->setToolTip(text + " (" + keys.toString(QKeySequence::NativeText) + ")");
     connect(entry, &QAction::triggered, page_, action);
     return entry;
   };
-  QAction* back = add("helpBack", "Back", style()->standardIcon(QStyle::SP_ArrowBack),
-                      QKeySequence("Alt+Left"), [this] { page_->backward(); });
-  QAction* forward = add("helpForward", "Forward", style()->standardIcon(QStyle::SP_ArrowForward),
-                         QKeySequence("Alt+Right"), [this] { page_->forward(); });
-  add("helpHome", "Home", QIcon::fromTheme("go-home"), QKeySequence("Alt+Home"),
+  QAction* back = add("helpBack", "Back", HelpIcon::Back, QKeySequence("Alt+Left"),
+                      [this] { page_->backward(); });
+  QAction* forward = add("helpForward", "Forward", HelpIcon::Forward, QKeySequence("Alt+Right"),
+                         [this] { page_->forward(); });
+  add("helpHome", "Home", HelpIcon::Home, QKeySequence("Alt+Home"),
       [this] { OpenPage(QUrl(FirstPage)); });
   bar->addSeparator();
-  add("helpZoomIn", "Zoom In", QIcon::fromTheme("zoom-in"), QKeySequence("Ctrl++"),
+  add("helpZoomIn", "Zoom In", HelpIcon::ZoomIn, QKeySequence("Ctrl++"),
       [this] { page_->ZoomBy(1); });
-  add("helpZoomOut", "Zoom Out", QIcon::fromTheme("zoom-out"), QKeySequence("Ctrl+-"),
+  add("helpZoomOut", "Zoom Out", HelpIcon::ZoomOut, QKeySequence("Ctrl+-"),
       [this] { page_->ZoomBy(-1); });
   back->setEnabled(false);
   forward->setEnabled(false);
@@ -193,26 +204,25 @@ void frmHelp::ShowTopic(const QString& keyword) {
   RaiseWindow();
 }
 
+// The letter of a tab leads into its field, also of the tab that is in front already.
+bool frmHelp::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Shortcut && watched == side_->tabBar()) {
+    QMetaObject::invokeMethod(
+        this, [this] { side_->currentWidget()->setFocus(); }, Qt::QueuedConnection);
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void frmHelp::closeEvent(QCloseEvent* event) {
+  QMainWindow::closeEvent(event);
+  place_ = pos();
+}
+
+// A window manager would choose a new place each time.
 void frmHelp::RaiseWindow() {
-  BelongToOpenDialog();
+  if (!isVisible() && place_) move(*place_);
   if (isMinimized()) showNormal();
   show();
   raise();
   activateWindow();
-}
-
-// A dialog blocks every window but those that belong to it. The dialog does not own this window:
-// when it is gone, the window simply belongs to nobody again.
-void frmHelp::BelongToOpenDialog() {
-  QWindow* modal = QGuiApplication::modalWindow();
-  create();
-  QWindow* window = windowHandle();
-  if (modal == window || window->transientParent() == modal) return;
-  window->setTransientParent(modal);
-}
-
-bool frmHelp::event(QEvent* event) {
-  const bool handled = QMainWindow::event(event);
-  if (event->type() == QEvent::WindowBlocked) BelongToOpenDialog();
-  return handled;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QMainWindow>
 
 #include "ui/help/HelpBook.h"
@@ -19,13 +21,18 @@ class frmHelp : public QMainWindow {
   explicit frmHelp(const QString& programDirectory, QWidget* parent = nullptr);
   ~frmHelp() override;
 
+  // Where there is room; for the first time that the window is shown.
+  void PlaceBesideGame(const QWidget& game);
+
   // Both show the window above the others.
   void ShowContents();
   // The page of an index entry or of a window's object name; the contents when there is none.
   void ShowTopic(const QString& keyword);
 
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  protected:
-  bool event(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
 
  private:
   void BuildViewer();
@@ -37,11 +44,11 @@ class frmHelp : public QMainWindow {
   void OpenPage(const QUrl& page);
   void OpenPageAt(const QUrl& page, const QStringList& words);
   void SelectInContents(const QUrl& page);
-  void BelongToOpenDialog();
   void RaiseWindow();
 
   HelpBook book_;
   QHelpContentWidget* contents_ = nullptr;
   HelpPage* page_ = nullptr;
   QTabWidget* side_ = nullptr;
+  std::optional<QPoint> place_;
 };
