@@ -1,5 +1,7 @@
 // The help window on the real help file.
 
+#include <memory>
+
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -9,10 +11,12 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTextLayout>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 #include "tests/ui/Contrast.h"
 #include "tests/ui/Desk.h"
+#include "ui/application/DialogModality.h"
 #include "ui/application/HelpKey.h"
 #include "ui/help/HelpPage.h"
 #include "ui/help/frmHelp.h"
@@ -58,6 +62,21 @@ class Help : public testing::Test {
   }
 
   frmHelp help;
+};
+
+class HelpBesideADialog : public Help {
+ protected:
+  void OpenDialog() {
+    game.show();
+    dialog = std::make_unique<QDialog>(&game);
+    dialog->setModal(true);
+    dialog->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
+  }
+
+  DialogModality modality;
+  QWidget game;
+  std::unique_ptr<QDialog> dialog;
 };
 
 }  // namespace
@@ -214,40 +233,38 @@ TEST_F(Help, NamesEveryControlForAScreenReader) {
   }
 }
 
-TEST_F(Help, CanBeUsedWhileADialogIsOpen) {
-  help.ShowContents();
-  QDialog dialog;
-  dialog.setModal(true);
-  dialog.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+TEST_F(HelpBesideADialog, CanBeOpenedAndUsed) {
+  OpenDialog();
   help.ShowTopic("How to Play");
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&help));
   QTest::keyClick(help.windowHandle(), Qt::Key_Home, Qt::AltModifier);
   EXPECT_EQ(PageName(), "welcome.html");
 }
 
-TEST_F(Help, StaysUsableWhenADialogOpensLater) {
+TEST_F(HelpBesideADialog, StaysUsableWhenTheDialogOpensLater) {
   help.ShowTopic("How to Play");
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&help));
-  QDialog dialog;
-  dialog.setModal(true);
-  dialog.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+  OpenDialog();
   help.activateWindow();
   QTest::keyClick(help.windowHandle(), Qt::Key_Home, Qt::AltModifier);
   EXPECT_EQ(PageName(), "welcome.html");
 }
 
-TEST_F(Help, OutlivesTheDialogItWasOpenedFrom) {
-  {
-    QDialog dialog;
-    dialog.setModal(true);
-    dialog.show();
-    help.ShowTopic("How to Play");
-  }
-  help.ShowContents();
+TEST_F(HelpBesideADialog, StaysOpenWhenTheDialogCloses) {
+  OpenDialog();
+  help.ShowTopic("How to Play");
+  dialog.reset();
   EXPECT_TRUE(help.isVisible());
-  EXPECT_EQ(PageName(), "welcome.html");
+  EXPECT_EQ(help.windowHandle()->transientParent(), nullptr);
+}
+
+TEST_F(HelpBesideADialog, LeavesTheGameToTheDialog) {
+  QLineEdit field(&game);
+  OpenDialog();
+  help.ShowTopic("How to Play");
+  QTest::keyClick(game.windowHandle(), Qt::Key_A);
+  EXPECT_EQ(QGuiApplication::modalWindow(), dialog->windowHandle());
+  EXPECT_TRUE(field.text().isEmpty());
 }
 
 class F1 : public testing::Test {

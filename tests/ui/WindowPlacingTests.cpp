@@ -1,5 +1,7 @@
 #include <QDialog>
+#include <QGuiApplication>
 #include <QMainWindow>
+#include <QScreen>
 #include <gtest/gtest.h>
 
 #include "ui/widgets/WindowPlacing.h"
@@ -98,7 +100,7 @@ TEST(BesideTheMainWindow, TellsWhereAMainWindowWasThatHadToMove) {
   mainWindow.setGeometry(100, 20, 640, 660);
   QDialog dialog;
   dialog.setFixedSize(Dialog);
-  EXPECT_EQ(PlaceBeside(dialog, mainWindow), QPoint(100, 20));
+  EXPECT_EQ(PlaceBeside(dialog, mainWindow, mainWindow), QPoint(100, 20));
   EXPECT_NE(mainWindow.pos(), QPoint(100, 20));
 }
 
@@ -107,8 +109,22 @@ TEST(BesideTheMainWindow, LeavesAMaximisedMainWindowWhereItIs) {
   mainWindow.showMaximized();
   QDialog dialog;
   dialog.setFixedSize(Dialog);
-  EXPECT_EQ(PlaceBeside(dialog, mainWindow), std::nullopt);
+  EXPECT_EQ(PlaceBeside(dialog, mainWindow, mainWindow), std::nullopt);
   EXPECT_TRUE(mainWindow.isMaximized());
+}
+
+TEST(BesideTheMainWindow, IsBesideTheBoardOfAMaximisedOne) {
+  QMainWindow mainWindow;
+  QWidget board(&mainWindow);
+  mainWindow.showMaximized();
+  board.setGeometry(0, 20, 700, 400);
+  board.show();
+  QDialog dialog;
+  dialog.setFixedSize(Dialog);
+  PlaceBeside(dialog, mainWindow, board);
+  EXPECT_GE(dialog.pos().x(), board.mapToGlobal(QPoint(400, 0)).x());
+  EXPECT_LT(dialog.pos().x(), board.mapToGlobal(QPoint(420, 0)).x());
+  EXPECT_EQ(dialog.pos().y(), board.mapToGlobal(QPoint(0, 0)).y());
 }
 
 TEST(BesideTheMainWindow, LeavesAMainWindowWhereItIsWithRoomForBoth) {
@@ -116,6 +132,26 @@ TEST(BesideTheMainWindow, LeavesAMainWindowWhereItIsWithRoomForBoth) {
   mainWindow.setGeometry(10, 20, 400, 420);
   QDialog dialog;
   dialog.setFixedSize(Dialog);
-  EXPECT_EQ(PlaceBeside(dialog, mainWindow), std::nullopt);
+  EXPECT_EQ(PlaceBeside(dialog, mainWindow, mainWindow), std::nullopt);
   EXPECT_EQ(mainWindow.pos(), QPoint(10, 20));
+}
+
+TEST(AStoredPlace, WithItsTitleBarInReachIsKept) {
+  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+  const QRect overTheRightEdge(screen.right() - 100, screen.top() + 10, 400, 400);
+  EXPECT_EQ(BroughtWithinReach(overTheRightEdge), overTheRightEdge);
+  const QRect overTheLeftAndTheBottom(screen.left() - 300, screen.bottom() - 30, 400, 400);
+  EXPECT_EQ(BroughtWithinReach(overTheLeftAndTheBottom), overTheLeftAndTheBottom);
+}
+
+TEST(AStoredPlace, WhoseTitleBarCannotBeGraspedIsBroughtOntoTheScreen) {
+  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+  const QSize size(400, 400);
+  for (const QPoint& place :
+       {screen.topLeft() - QPoint(3, 30), screen.topLeft() + QPoint(-390, 10),
+        screen.topRight() + QPoint(-10, 10), screen.bottomLeft() + QPoint(10, -5),
+        screen.topLeft() - QPoint(5000, 5000)}) {
+    EXPECT_TRUE(screen.contains(BroughtWithinReach({place, size})))
+        << place.x() << " " << place.y();
+  }
 }

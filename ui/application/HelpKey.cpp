@@ -1,8 +1,8 @@
 #include "ui/application/HelpKey.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QKeyEvent>
-#include <QWidget>
 
 namespace {
 
@@ -11,14 +11,20 @@ bool IsHelpKey(const QEvent& event) {
          static_cast<const QKeyEvent&>(event).key() == Qt::Key_F1;
 }
 
+// Its own window or inside of another.
+bool IsInDialog(const QWidget* widget) {
+  while (widget != nullptr && qobject_cast<const QDialog*>(widget) == nullptr) {
+    widget = widget->parentWidget();
+  }
+  return widget != nullptr;
+}
+
 }  // namespace
 
 QString HelpTopicOf(const QWidget& widget) {
-  const QWidget* window = widget.window();
-  while (!window->objectName().startsWith("frm") && window->parentWidget() != nullptr) {
-    window = window->parentWidget()->window();
-  }
-  return window->objectName().startsWith("frm") ? window->objectName() : QString();
+  const QWidget* owner = &widget;
+  while (owner != nullptr && !owner->objectName().startsWith("frm")) owner = owner->parentWidget();
+  return owner != nullptr ? owner->objectName() : QString();
 }
 
 HelpKey::HelpKey(GetHelp getHelp) : getHelp_(std::move(getHelp)) {
@@ -26,9 +32,9 @@ HelpKey::HelpKey(GetHelp getHelp) : getHelp_(std::move(getHelp)) {
 }
 
 bool HelpKey::eventFilter(QObject* watched, QEvent* event) {
-  if (!IsHelpKey(*event) || QApplication::activeModalWidget() == nullptr) return false;
+  if (!IsHelpKey(*event) || QApplication::activePopupWidget() != nullptr) return false;
   const auto* widget = qobject_cast<QWidget*>(watched);
-  if (widget == nullptr || QApplication::activePopupWidget() != nullptr) return false;
+  if (!IsInDialog(widget)) return false;
   getHelp_(HelpTopicOf(*widget));
   return true;
 }

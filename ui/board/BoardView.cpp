@@ -1,5 +1,6 @@
 #include "ui/board/BoardView.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <utility>
@@ -56,8 +57,14 @@ void BoardView::SetBackground(Color color, bool showImage) {
   PaintEverything();
 }
 
+// The height; less where a window that cannot be square is narrower than that, so that no square is
+// out of sight.
+int BoardView::InnerSide() const {
+  return std::min(width(), height());
+}
+
 void BoardView::LayOut(const BoardLook& look) {
-  layout_ = LayOutBoard(TwipsFromPixels(height()), cornerDistance_);
+  layout_ = LayOutBoard(TwipsFromPixels(InnerSide()), cornerDistance_);
   model_.SetCellSide(InnerCellSide(layout_, look.UseBorders));
   model_.ReCenterImages(look);
   cellPainter_.Clear();
@@ -146,8 +153,9 @@ void BoardView::PaintBackground(QPainter& painter, const QRegion& region) {
   const int boardCorner = static_cast<int>(std::ceil(edges.front() / ratio));
   if ((region - QRect(boardCorner, boardCorner, boardSide, boardSide)).isEmpty()) return;
 
-  const int side = static_cast<int>(std::lround(height() * ratio));
-  const QRect everything(0, 0, static_cast<int>(std::ceil(width() * ratio)) + 1, side + 1);
+  const int side = static_cast<int>(std::lround(InnerSide() * ratio));
+  const QRect everything(0, 0, static_cast<int>(std::ceil(width() * ratio)) + 1,
+                         static_cast<int>(std::ceil(height() * ratio)) + 1);
   painter.fillRect(everything, ResolveColor(backgroundColor_, palette()));
   if (!showBackgroundImage_ || pictures_.background.isNull()) return;
   if (background_.isNull()) {

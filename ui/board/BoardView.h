@@ -30,7 +30,7 @@ class BoardView : public QWidget {
   void SetBackground(Color color, bool showImage);
   // cornerDistance: twips. Takes effect with the next LayOut.
   void SetCornerDistance(int cornerDistance) { cornerDistance_ = cornerDistance; }
-  // Fits the squares to the height of the view.
+  // Fits the squares to the height of the view, or to its width where that is less.
   void LayOut(const BoardLook& look);
   // Has the cells that changed since the last call painted with the next events, or at the pace of
   // the display.
@@ -69,6 +69,7 @@ class BoardView : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  int InnerSide() const;
   void PaintEverything();
   void PaintChanges();
   QRegion RegionOf(BoardModel::CellSet cells) const;

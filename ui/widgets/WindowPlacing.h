@@ -4,18 +4,23 @@
 
 #include <QRect>
 
+class QDialog;
 class QWidget;
 
-// Centres a dialog on the main window and keeps it on the screen.
-void PlaceDialog(QWidget& dialog, const QWidget& mainWindow);
+// Whether a window is told where it is and may choose its place. Wayland keeps both to itself.
+bool WindowsHavePlaces();
+
+// Centres a dialog on the main window, fits it to the screen and keeps it there.
+void PlaceDialog(QDialog& dialog, const QWidget& mainWindow);
 
 // The arithmetic of PlaceDialog: the dialog's top left corner, all with their frames and in pixels
 // of the desktop.
 QPoint CentredPosition(const QSize& dialog, const QRect& mainWindow, const QRect& screen);
 
-// Places a dialog beside the main window, which moves aside where the screen has no room for both.
+// Places a dialog beside the main window, which moves aside where the screen has no room for both;
+// beside a maximised one means beside its board, which begins at its left.
 // Gives the main window's former position if it was moved, for the caller to put it back there.
-std::optional<QPoint> PlaceBeside(QWidget& dialog, QWidget& mainWindow);
+std::optional<QPoint> PlaceBeside(QDialog& dialog, QWidget& mainWindow, const QWidget& board);
 
 // Top left corners, all in pixels of the desktop.
 struct PairPosition {
@@ -27,5 +32,17 @@ struct PairPosition {
 // roomier side. Where the screen is too narrow for both, they overlap.
 PairPosition PositionsSideBySide(const QSize& dialog, const QRect& mainWindow, const QRect& screen);
 
-// Bounds that lie on no screen are brought back onto the nearest; others stay as they are.
-QRect BroughtOntoScreen(const QRect& bounds);
+// Places a window beside another, on the roomier side, and makes it as narrow as that needs, but
+// not narrower than the least width: then it stands at the edge of the screen.
+void PlaceBesideWindow(QWidget& window, const QWidget& other, int leastWidth);
+
+// The top left corner with which the bounds lie inside the screen; what is too large begins at its
+// top left.
+QPoint BroughtInside(const QRect& bounds, const QRect& screen);
+
+// The screen that most of the bounds lie on; the primary one where they lie on none.
+QRect ScreenOf(const QRect& bounds);
+
+// Bounds of which no title bar can be seen and grasped, with all screens in view, are brought onto
+// the nearest screen; others stay as they are.
+QRect BroughtWithinReach(const QRect& bounds);

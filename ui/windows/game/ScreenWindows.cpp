@@ -1,12 +1,12 @@
 #include "ui/windows/game/ScreenWindows.h"
 
-#include "ui/widgets/WindowPlacing.h"
 #include "ui/windows/animations/Canvas.h"
 #include "ui/windows/animations/frmAbout.h"
 #include "ui/windows/animations/frmWin.h"
 #include "ui/windows/frmGameOver.h"
 #include "ui/windows/frmReplay.h"
 #include "ui/windows/frmSolve.h"
+#include "ui/windows/game/BesideTheBoard.h"
 #include "ui/windows/game/frmGame.h"
 #include "ui/windows/history/frmHistory.h"
 #include "ui/windows/preferences/frmPreferences.h"
@@ -14,18 +14,16 @@
 
 void ScreenWindows::ShowSolve(int startMove) {
   frmSolve window(mainWindow_.Context(), &mainWindow_);
-  const std::optional<QPoint> formerPosition = PlaceBeside(window, mainWindow_);
+  const BesideTheBoard place(window, mainWindow_);
   window.StartAt(startMove);
   window.exec();
-  if (formerPosition) mainWindow_.move(*formerPosition);
 }
 
 void ScreenWindows::ShowReplay(int total) {
   frmReplay window(mainWindow_.Context(), &mainWindow_);
-  const std::optional<QPoint> formerPosition = PlaceBeside(window, mainWindow_);
+  const BesideTheBoard place(window, mainWindow_);
   window.StartWith(total);
   window.exec();
-  if (formerPosition) mainWindow_.move(*formerPosition);
 }
 
 void ScreenWindows::ShowMoveHistory() {

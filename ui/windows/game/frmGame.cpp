@@ -15,6 +15,7 @@
 #include "ui/commands/EndOfGame.h"
 #include "ui/commands/GameFiles.h"
 #include "ui/help/frmHelp.h"
+#include "ui/windows/game/SidePanel.h"
 
 namespace {
 
@@ -29,7 +30,7 @@ frmGame::frmGame(Globals& globals, PicturePace::Clock clock)
     : globals_(globals),
       pictures_(globals.ProgramDirectory),
       game_(state_, globals.settings, *this),
-      tmrTime_([this] { game_.tmrTime_Timer(); }),
+      tmrTime_([this] { TickInSight(); }),
       pace_(std::move(clock)),
       board_(std::make_unique<BoardView>(state_, pace_)),
       menu_(*this),
@@ -73,7 +74,10 @@ bool frmGame::Perform(const std::function<void()>& deed) {
 }
 
 void frmGame::GetHelp(const QString& helpTopic) {
-  if (help_ == nullptr) help_ = std::make_unique<frmHelp>(globals_.ProgramDirectory);
+  if (help_ == nullptr) {
+    help_ = std::make_unique<frmHelp>(globals_.ProgramDirectory);
+    help_->PlaceBesideGame(*this);
+  }
   helpTopic.isEmpty() ? help_->ShowContents() : help_->ShowTopic(helpTopic);
 }
 
@@ -155,6 +159,7 @@ void frmGame::closeEvent(QCloseEvent* event) {
   if (QApplication::activeModalWidget() != nullptr) return event->ignore();
   guard_.SetCloseRequested(!PlayerMayAct());
   if (!PlayerMayAct()) pace_.Hurry();
+  if (auto* panel = findChild<SidePanel*>()) panel->CloseDialog();
   event->setAccepted(PlayerMayAct() && game_.Form_Unload());
   if (event->isAccepted()) SaveSettings();
 }

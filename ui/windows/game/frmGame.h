@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QPoint>
 #include <QRect>
@@ -11,6 +12,7 @@
 
 #include "core/Game.h"
 #include "ui/application/ButtonKeys.h"
+#include "ui/application/DialogModality.h"
 #include "ui/application/FocusReturn.h"
 #include "ui/application/HelpKey.h"
 #include "ui/application/InputWatch.h"
@@ -50,6 +52,8 @@ class frmGame : public QMainWindow, public MainWindow {
   const CommandContext& Context() const { return context_; }
   const GameState& State() const { return state_; }
   BoardView& Board() { return *board_; }
+  // Maximised, full-screen or in a tile: then it does not choose its size.
+  bool HasGivenShape() const;
 
   // Opens the help at a keyword, or at its contents when the topic is empty.
   void GetHelp(const QString& helpTopic);
@@ -94,11 +98,16 @@ class frmGame : public QMainWindow, public MainWindow {
   void WorkChanged(WorkGuard::Change change);
   void CloseAsRequested();
   bool IsClockResting() const;
+  bool CanBeSeen() const;
+  bool HasSidePanel() const;
+  void TickInSight();
   bool IsNormal() const;
   QRect NormalBounds() const;
   bool SnapToMinimumHeight();
   void MakeInnerAreaSquare();
+  void FindOutWhetherTiled();
   void ApplyPlacement(const WindowPlacement& placement);
+  void SettleInFrame();
 
   Globals& globals_;
   PictureReader pictures_;
@@ -113,6 +122,7 @@ class frmGame : public QMainWindow, public MainWindow {
   CommandContext context_;
   std::optional<LateSaving> lateSaving_;  // once the files have their names
   std::unique_ptr<frmHelp> help_;         // made on first use
+  DialogModality dialogModality_;
   HelpKey helpKey_;
   ButtonKeys buttonKeys_;
   FocusReturn focusReturn_;
@@ -122,8 +132,12 @@ class frmGame : public QMainWindow, public MainWindow {
   bool performing_ = false;
   bool resizePending_ = false;
   QRect placedBounds_;  // where the window was put before it was shown
+  // The stored place, until the window has settled there with its frame.
+  std::optional<WindowPlacement> unsettled_;
   // From the corner of the window manager's frame to the window's own; known once the window has
   // been seen in its normal state.
   std::optional<QPoint> decoration_;
+  QElapsedTimer sinceShown_;
+  bool tiled_ = false;        // was given a size as soon as it was shown, and keeps to such sizes
   QSize sizeBeforeSquaring_;  // the size that was last asked to change, invalid when it did
 };

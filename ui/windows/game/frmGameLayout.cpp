@@ -2,16 +2,19 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <QApplication>
 #include <QEvent>
 #include <QMenuBar>
 #include <QScreen>
+#include <QWindow>
 
 #include "storage/OwnFiles.h"
 #include "ui/board/BoardLayout.h"
 #include "ui/board/BoardView.h"
 #include "ui/widgets/WindowPlacing.h"
+#include "ui/windows/game/SidePanel.h"
 #include "ui/windows/game/frmGame.h"
 
 namespace {
@@ -19,6 +22,8 @@ namespace {
 constexpr int Maximised = 2;  // the stored window state
 // Room for a title bar and borders, whose size is not known before the window is shown.
 constexpr int DecorationAllowance = 48;
+
+constexpr qint64 OpeningMilliseconds = 1000;
 
 // Far beyond every screen, and safe to calculate with.
 constexpr double LargestPixel = 32000;
@@ -35,11 +40,15 @@ int MinimumHeight() {
 
 // The size that the window of this height would give itself as soon as it is shown, whatever its
 // width. Asking for it only then would also move the window: its own corner would be put where that
-// of its frame belongs. A window that is many times higher than the desktop would fill the memory.
-QSize SizeOfHeight(int height, int menuHeight, int desktopHeight) {
+// of its frame belongs. A window that is larger than the screen is made to fit into it.
+QSize SizeOfHeight(int height, int menuHeight, const QSize& screen) {
   if (height - menuHeight < MinimumHeight()) height = MinimumHeight();
-  height = std::min(height, std::max(2 * desktopHeight, MinimumHeight()));
-  return {std::max(height - menuHeight, 1), height};
+  int side = std::max(height - menuHeight, 1);
+  if (side > screen.width() || height > screen.height()) {
+    side = std::min(screen.width(), screen.height() - menuHeight - DecorationAllowance);
+  }
+  side = std::max(side, MinimumHeight() - menuHeight);
+  return {side, side + menuHeight};
 }
 
 }  // namespace
@@ -51,7 +60,10 @@ void frmGame::CreateBoard() {
           [this](int index) { Perform([this, index] { game_.pctGrid_MouseMove(index, 0); }); });
   connect(board_.get(), &BoardView::KeyPressed, this,
           [this](int keyCode) { Perform([this, keyCode] { game_.pctGrid_KeyDown(keyCode); }); });
-  connect(board_.get(), &BoardView::Resized, this, [this] { Form_Resize(); });
+  connect(board_.get(), &BoardView::Resized, this, [this] {
+    // Beside a panel the board takes the room that is there, and the clock goes on.
+    HasSidePanel() ? board_->LayOut(globals_.settings) : Form_Resize();
+  });
   board_->setFocus();
 }
 
@@ -65,24 +77,35 @@ void frmGame::OpenSettingsAndPlaceWindow() {
 void frmGame::ApplyPlacement(const WindowPlacement& placement) {
   const QRect available = screen()->availableGeometry();
   const int menuHeight = menuBar()->sizeHint().height();
-  const int designedSide =
-      std::min({static_cast<int>(PixelsFromTwips(DesignedInnerSideTwips)), available.width(),
-                available.height() - menuHeight - DecorationAllowance});
-  const QSize size = SizeOfHeight(PixelFrom(placement.Height, designedSide + menuHeight),
-                                  menuHeight, screen()->virtualSize().height());
-  const QPoint centred(available.left() + (available.width() - size.width()) / 2,
-                       available.top() + (available.height() - size.height()) / 2);
-  placedBounds_ = BroughtOntoScreen(
-      {{PixelFrom(placement.Left, centred.x()), PixelFrom(placement.Top, centred.y())}, size});
+  const int designedHeight =
+      std::min(static_cast<int>(PixelsFromTwips(DesignedInnerSideTwips)) + menuHeight,
+               available.height() - DecorationAllowance);
+  const int height = PixelFrom(placement.Height, designedHeight);
+  const auto boundsOf = [&](const QSize& size) {
+    const QPoint centred = CentredPosition(size, available, available);
+    return QRect({PixelFrom(placement.Left, centred.x()), PixelFrom(placement.Top, centred.y())},
+                 size);
+  };
+  const QSize room = ScreenOf(boundsOf({height, height})).size();
+  placedBounds_ = BroughtWithinReach(boundsOf(SizeOfHeight(height, menuHeight, room)));
   move(placedBounds_.topLeft());
   resize(placedBounds_.size());
-  if (placement.State == Maximised) setWindowState(windowState() | Qt::WindowMaximized);
+  unsettled_ = placement;
+  if (placement.State != Maximised) return;
+  unsettled_.reset();
+  setWindowState(windowState() | Qt::WindowMaximized);
 }
 
 // Where no window manager gives it the keyboard, the window asks for it.
 void frmGame::ShowWindow() {
+  if (!sinceShown_.isValid()) sinceShown_.start();
   show();
   activateWindow();
+}
+
+// Everywhere but on Wayland a minimised window says so; there it is only not painted any more.
+bool frmGame::CanBeSeen() const {
+  return windowHandle() != nullptr && windowHandle()->isExposed();
 }
 
 bool frmGame::IsMinimised() const {
@@ -102,16 +125,40 @@ QRect frmGame::NormalBounds() const {
 
 WindowPlacement frmGame::Placement() const {
   const QRect bounds = NormalBounds();
-  return {.Left = TwipsFromPixels(bounds.left()),
-          .Top = TwipsFromPixels(bounds.top()),
-          .Height = TwipsFromPixels(bounds.height()),
-          .Width = TwipsFromPixels(bounds.width()),
-          .State = isMaximized() ? Maximised : 0};
+  WindowPlacement placement{.Height = TwipsFromPixels(bounds.height()),
+                            .Width = TwipsFromPixels(bounds.width()),
+                            .State = isMaximized() ? Maximised : 0};
+  if (WindowsHavePlaces()) {
+    placement.Left = TwipsFromPixels(bounds.left());
+    placement.Top = TwipsFromPixels(bounds.top());
+  }
+  return placement;
 }
 
 void frmGame::moveEvent(QMoveEvent* event) {
   QMainWindow::moveEvent(event);
-  if (isVisible() && IsNormal()) decoration_ = geometry().topLeft() - pos();
+  if (!isVisible() || !IsNormal() || !WindowsHavePlaces()) return;
+  decoration_ = geometry().topLeft() - pos();
+  if (*decoration_ != QPoint()) SettleInFrame();
+}
+
+// Only now is the frame known with which a first start is in the middle, and a window as large as
+// the screen is inside it.
+void frmGame::SettleInFrame() {
+  const auto placement = std::exchange(unsettled_, std::nullopt);
+  if (!placement) return;
+  const QRect frame = windowHandle()->frameGeometry();
+  const QRect available = ScreenOf(frame);
+  const int surplus =
+      std::max({frame.width() - available.width(), frame.height() - available.height(), 0});
+  const QSize size = frame.size() - QSize(surplus, surplus);
+  const bool fitted = surplus > 0 || PixelFrom(placement->Height, 0) > height();
+  const QPoint centred = CentredPosition(size, available, available);
+  QPoint place(placement->Left ? frame.left() : centred.x(),
+               placement->Top ? frame.top() : centred.y());
+  if (fitted) place = BroughtInside({place, size}, available);
+  if (surplus > 0) resize(this->size() - QSize(surplus, surplus));
+  if (place != frame.topLeft()) move(place);
 }
 
 void frmGame::changeEvent(QEvent* event) {
@@ -121,17 +168,30 @@ void frmGame::changeEvent(QEvent* event) {
   }
 }
 
+// The clock rests while the window cannot be seen. On Wayland whether it can is only found out by
+// painting, and painting also brings a title bar up to date that the toolkit draws itself.
+void frmGame::TickInSight() {
+  if (!CanBeSeen()) return;
+  game_.tmrTime_Timer();
+  if (!WindowsHavePlaces()) menuBar()->update();
+}
+
 // Also between the closing of a dialog and what follows from it.
 bool frmGame::IsClockResting() const {
   return performing_ || QApplication::activeModalWidget() != nullptr;
 }
 
 void frmGame::Form_Resize() {
+  FindOutWhetherTiled();
   game_.ClockOnResize(isMinimized(), IsClockResting());
   resizePending_ = state_.ApplyingMoves;
   if (isMinimized() || resizePending_ || SnapToMinimumHeight()) return;
   board_->LayOut(globals_.settings);
-  if (!isMaximized() && !isFullScreen()) MakeInnerAreaSquare();
+  if (!HasGivenShape()) MakeInnerAreaSquare();
+}
+
+bool frmGame::HasSidePanel() const {
+  return findChild<SidePanel*>() != nullptr;
 }
 
 void frmGame::CatchUpOnResize() {
@@ -145,6 +205,19 @@ bool frmGame::SnapToMinimumHeight() {
   }
   resize(width(), MinimumHeight());
   return true;
+}
+
+bool frmGame::HasGivenShape() const {
+  return tiled_ || isMaximized() || isFullScreen();
+}
+
+// The toolkit says nothing of tiles. But nobody makes a window larger by hand as soon as he sees
+// it, and a window that is to fit into the screen is only made smaller.
+void frmGame::FindOutWhetherTiled() {
+  if (WindowsHavePlaces()) return;
+  const bool isNew = sinceShown_.isValid() && !sinceShown_.hasExpired(OpeningMilliseconds);
+  if (isNew) tiled_ = size().boundedTo(placedBounds_.size()) != size();
+  if (board_->width() == board_->height()) tiled_ = false;
 }
 
 // A window manager may refuse the size; it is then not asked for the same thing again.
