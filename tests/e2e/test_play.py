@@ -106,14 +106,6 @@ class Play(unittest.TestCase):
         self.desktop.close(self.game)
         wait_for(self.ended, "the program to end")
 
-    def test_a_window_without_a_stored_place_is_in_the_middle(self):
-        self.start()
-        self.desktop.close(self.game)
-        wait_for(self.ended, "the program to end")
-        lines = (self.program.parent / "GallopadeNova.ini").read_text().split()
-        self.assertIn("Left=4800", lines)
-        self.assertIn("Width=9600", lines)
-
     def settled_geometry(self):
         first = self.desktop.geometry(self.game)
         return first if first == self.desktop.geometry(self.game) else None

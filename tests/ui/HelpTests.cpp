@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QScreen>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QTextBlock>
@@ -20,6 +22,7 @@
 #include "ui/application/HelpKey.h"
 #include "ui/help/HelpPage.h"
 #include "ui/help/frmHelp.h"
+#include "ui/widgets/WindowPlacing.h"
 
 namespace {
 
@@ -189,6 +192,54 @@ TEST_F(Help, KeepsItsPlaceItsPageAndItsZoomWhenClosed) {
   EXPECT_EQ(help.geometry(), place);
   EXPECT_EQ(PageName(), "howtoplay.html");
   EXPECT_EQ(Page().font().pointSizeF(), size);
+}
+
+TEST_F(Help, LeadsIntoTheFieldOfATabByItsLetter) {
+  help.ShowContents();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&help));
+  const auto type = [this](Qt::Key letter) {
+    QTest::keyClick(help.windowHandle(), letter, Qt::AltModifier);
+    QCoreApplication::processEvents();
+    return QApplication::focusWidget() != nullptr ? QApplication::focusWidget()->objectName()
+                                                  : QString();
+  };
+  EXPECT_EQ(type(Qt::Key_S), "searchField");
+  EXPECT_EQ(type(Qt::Key_I), "indexFilter");
+  Page().setFocus();
+  EXPECT_EQ(type(Qt::Key_I), "indexFilter");
+}
+
+TEST_F(Help, ShowsItsTabsWholeInLargeLetters) {
+  QFont large = help.font();
+  large.setPointSize(20);
+  help.setFont(large);
+  help.resize(500, 400);
+  help.ShowContents();
+  const auto& bar = *Child<QTabWidget>(help, "helpSide").tabBar();
+  EXPECT_GE(bar.width(), bar.sizeHint().width());
+}
+
+TEST_F(Help, HasAnIconForEachButton) {
+  for (const char* name : {"helpBack", "helpForward", "helpHome", "helpZoomIn", "helpZoomOut"}) {
+    const QImage image = Button(name).icon().pixmap(16, 16).toImage();
+    int drawn = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) drawn += image.pixelColor(x, y).alpha() > 0 ? 1 : 0;
+    }
+    EXPECT_GT(drawn, 16) << name;
+  }
+}
+
+TEST_F(Help, OpensBesideTheGameWhereThereIsRoom) {
+  QWidget game;
+  const QRect screen = game.screen()->availableGeometry();
+  game.setGeometry(screen.left() + 5, screen.top() + 5, 100, 100);
+  help.resize(300, 300);
+  PlaceBesideWindow(help, game, 200);
+  EXPECT_GT(help.x(), game.geometry().right());
+  game.setGeometry(screen.left() + screen.width() - 250, screen.top() + 5, 240, 240);
+  PlaceBesideWindow(help, game, 200);
+  EXPECT_LE(help.x() + help.width(), game.x());
 }
 
 TEST_F(Help, ZoomsWithinReason) {

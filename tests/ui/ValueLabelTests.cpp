@@ -1,5 +1,6 @@
 #include <QAccessible>
 #include <QGroupBox>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include "tests/ui/Displays.h"
@@ -74,6 +75,25 @@ TEST(ValueLabelTest, FollowsTheColoursOfTheDesktop) {
   QPalette palette = framed.frame.palette();
   palette.setColor(QPalette::WindowText, Qt::red);
   framed.frame.setPalette(palette);
+  EXPECT_TRUE(framed.Shows(Qt::red));
+}
+
+TEST(ValueLabelTest, HasTheColoursOfAnInactiveWindowOnlyWhileItIsOne) {
+  Framed framed;
+  QPalette palette = framed.frame.palette();
+  palette.setColor(QPalette::Active, QPalette::WindowText, Qt::red);
+  palette.setColor(QPalette::Inactive, QPalette::WindowText, Qt::blue);
+  framed.frame.setPalette(palette);
+  framed.frame.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&framed.frame));
+  EXPECT_TRUE(framed.Shows(Qt::red));
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  EXPECT_TRUE(framed.Shows(Qt::blue));
+  framed.frame.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&framed.frame));
   EXPECT_TRUE(framed.Shows(Qt::red));
 }
 

@@ -7,7 +7,6 @@
 #include <QDialog>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QStyle>
 
 namespace {
 
@@ -35,10 +34,9 @@ class ScrollingRows : public QScrollArea {
   // A bar at one side takes room from the other.
   QSize sizeHint() const override {
     const QSize rows = widget()->sizeHint();
-    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this) +
-                    style()->pixelMetric(QStyle::PM_ScrollView_ScrollBarSpacing, nullptr, this);
-    const QSize beside(rows.height() > room_.height() ? bar : 0,
-                       rows.width() > room_.width() ? bar : 0);
+    const QSize beside(
+        rows.height() > room_.height() ? verticalScrollBar()->sizeHint().width() : 0,
+        rows.width() > room_.width() ? horizontalScrollBar()->sizeHint().height() : 0);
     return (rows + beside).boundedTo(room_);
   }
   QSize minimumSizeHint() const override { return sizeHint(); }

@@ -86,8 +86,11 @@ void frmGame::ApplyPlacement(const WindowPlacement& placement) {
     return QRect({PixelFrom(placement.Left, centred.x()), PixelFrom(placement.Top, centred.y())},
                  size);
   };
-  const QSize room = ScreenOf(boundsOf({height, height})).size();
-  placedBounds_ = BroughtWithinReach(boundsOf(SizeOfHeight(height, menuHeight, room)));
+  const QRect room = ScreenOf(boundsOf({height, height}));
+  const QRect wanted = boundsOf(SizeOfHeight(height, menuHeight, room.size()));
+  const QRect withFrame = wanted.adjusted(0, 0, 0, DecorationAllowance);
+  placedBounds_ = wanted.height() < height ? QRect(BroughtInside(withFrame, room), wanted.size())
+                                           : BroughtWithinReach(wanted);
   move(placedBounds_.topLeft());
   resize(placedBounds_.size());
   unsettled_ = placement;
