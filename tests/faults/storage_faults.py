@@ -1,96 +1,81 @@
-"""Fails the N-th file system call of a save, for every N, with every error that a disk has.
+"""Fails the N-th file system call of a save, for every N, with every error that a disk has, and kills
+the saver at it.
 
     storage_faults.py SAVER [--short]
 
 Whatever fails: the file is the old one or the new one, it is the new one if the saver says so, and
-after the next save nothing else lies in the folder. The file is there, or is missing, or is behind
-a link; the short form has it there.
+after the next save nothing else lies in the folder. Nothing counts as saved that was not brought
+onto the disk, content and name. The short form has the file there and fails the last calls only.
 """
 
 import itertools
-import re
-import shutil
-import subprocess
 import sys
 import tempfile
-from pathlib import Path
 
-SKIPPED = 77
-SAVED, NOT_SAVED = 0, 1
-OLD = {
-    "chessboard": b"[Chessboard]\r\nLight Color=1\r\n",
-    "game": b"7\r\n" + b"-1 -1\r\n" * 64,
-    "moves": b"old moves\r\n",
-    "scores": b"[High Scores]\r\nName 1=Old\r\nMoves 1=50\r\nTime 1=10\r\n",
-    "settings": b"; mine\r\n[Settings]\r\nState=0\r\nMine=kept\r\n",
-}
-CALLS = ("openat", "open", "creat", "read", "pread64", "write", "pwrite64", "fsync", "fdatasync",
-         "ftruncate", "close", "rename", "renameat", "renameat2", "unlink", "unlinkat", "fchmod",
-         "chmod", "flock", "stat", "lstat", "fstat", "newfstatat", "statx", "access", "faccessat2",
-         "readlink", "getdents64", "mmap")
-SHORT_CALLS = ("openat", "read", "write", "fsync", "rename", "fchmod", "flock", "getdents64",
-               "access", "newfstatat", "statx")
-STARTS = ("there", "missing", "linked")
+from saving import NOT_SAVED, OLD, SAVED, SKIPPED, STARTS, Save, may_trace
+
+# That a file is written over, and no new one put in its place, is no failure of a kill's.
+WRITTEN_OVER = ("twin",)
+SHORT_CALLS = ("openat", "read", "write", "fsync", "renameat", "fchmod", "flock", "getdents64",
+               "newfstatat", "fgetxattr", "pwrite64", "ftruncate")
 ERRORS = ("ENOSPC", "EIO", "EACCES", "EINTR")
 
 
-class Fault:
-    def __init__(self, saver, folder, kind, start):
-        self.saver = saver
-        self.path = folder / "file"
-        self.kind = kind
-        self.old = OLD[kind] if start != "missing" else None
-        if start == "linked":
-            (folder / "target").touch()
-            self.path.symlink_to("target")
-        self.start_anew()
-        self.save()
-        self.new = self.path.read_bytes()
-        self.names = self.names_there()
-        assert self.new != self.old
-
-    def start_anew(self):
-        if self.old is None:
-            self.path.unlink(missing_ok=True)
-        else:
-            self.path.write_bytes(self.old)
-
-    def names_there(self):
-        return sorted((path.name, path.is_symlink()) for path in self.path.parent.iterdir())
-
-    def save(self, *tracer):
-        return subprocess.run([*tracer, self.saver, self.kind, str(self.path)],
-                              capture_output=True, check=False).returncode
-
-    def calls(self):
-        """How often a save makes each call, from its start."""
-        trace = subprocess.run(["strace", "-f", "-e", "trace=" + ",".join(CALLS), "-o",
-                                "/dev/stdout", self.saver, self.kind, str(self.path)],
-                               capture_output=True, text=True, check=False).stdout
-        made = re.findall(r"^\d+ +(\w+)\(", trace, re.MULTILINE)
-        return {call: made.count(call) for call in CALLS if call in made}
-
-    def fails(self, call, error, number):
-        """What is wrong after the call has failed; None when all is well."""
-        self.start_anew()
-        told = self.save("strace", "-f", "-qq", "-o", "/dev/null", "-e", f"trace={call}",
-                         "-e", f"inject={call}:error={error}:when={number}")
-        content = self.path.read_bytes() if self.path.exists() else None
-        if content not in (self.old, self.new):
-            return "damaged"
-        if told == SAVED and content != self.new:
-            return "told saved"
-        if told == NOT_SAVED and content == self.new:
-            return "told not saved"
-        self.start_anew()
-        if self.save() != SAVED or self.path.read_bytes() != self.new:
-            return "not to be saved again"
-        return f"{self.names_there()} left" if self.names_there() != self.names else None
+def wrong_order(save):
+    """A pulled plug leaves the old file or the new one only if the content is on the disk before the
+    name is, and the save has happened only when the name is there as well."""
+    made = [call for call in save.calls_in_order() if call in
+            ("write", "pwrite64", "ftruncate", "fsync", "rename", "renameat", "renameat2")]
+    steps = [call for call, _ in itertools.groupby(made)]
+    wanted = ["write", "fsync", "renameat", "fsync"]
+    if save.start in WRITTEN_OVER:
+        wanted = ["write", "fsync", "pwrite64", "ftruncate", "fsync"]
+    return None if steps == wanted else f"goes {' '.join(steps)}"
 
 
-def may_trace():
-    return shutil.which("strace") and subprocess.run(
-        ["strace", "-qq", "-o", "/dev/null", "true"], check=False).returncode == 0
+def tamper(save, call, tampering, number):
+    save.start_anew()
+    return save.save("strace", "-f", "-qq", "-o", "/dev/null", "-e", f"trace={call}",
+                     "-e", f"inject={call}:{tampering}:when={number}")
+
+
+def wrong_after_error(save, call, error, number):
+    told = tamper(save, call, f"error={error}", number)
+    content = save.content()
+    if content not in (save.old, save.new):
+        return "damaged"
+    if told == SAVED and content != save.new:
+        return "told saved"
+    if told == SAVED and call == "fsync" and error != "EINTR":
+        return "told saved, but it may not be on the disk"
+    # The name of the new file is there then, but may not be so for ever.
+    if told == NOT_SAVED and content == save.new and call != "fsync":
+        return "told not saved"
+    return save.what_the_next_save_leaves()
+
+
+def wrong_after_kill(save, call, number):
+    tamper(save, call, "signal=SIGKILL", number)
+    if save.content() not in (save.old, save.new) and save.start not in WRITTEN_OVER:
+        return "damaged"
+    return save.what_the_next_save_leaves()
+
+
+def findings(save, short):
+    """One text or None for each call that something was done to."""
+    yield wrong_order(save)
+    for call, count in save.calls().items():
+        if short and call not in SHORT_CALLS:
+            continue
+        # The start of the process comes first; the save is in the last calls.
+        for number in range(max(1, count - 3) if short else 1, count + 1):
+            where = f"{call} {number} of {count}"
+            for error in ("ENOSPC", "EINTR") if short else ERRORS:
+                wrong = wrong_after_error(save, call, error, number)
+                yield wrong and f"{where}, {error}: {wrong}"
+            if not short or call in ("write", "renameat", "pwrite64"):
+                wrong = wrong_after_kill(save, call, number)
+                yield wrong and f"{where}, killed: {wrong}"
 
 
 def main():
@@ -99,23 +84,17 @@ def main():
     if not may_trace():
         print("skipped: strace is not installed, or may not trace here")
         return SKIPPED
+    cases = list(itertools.product(OLD, STARTS[:1] if short else STARTS))
+    if short:
+        cases.append(("settings", "twin"))
     runs, found = 0, []
-    for kind, start in itertools.product(OLD, STARTS[:1] if short else STARTS):
+    for kind, start in cases:
         with tempfile.TemporaryDirectory() as folder:
-            fault = Fault(saver, Path(folder), kind, start)
-            calls = {call: count for call, count in fault.calls().items()
-                     if not short or call in SHORT_CALLS}
-            for (call, count), error in itertools.product(calls.items(), ERRORS):
-                # The start of the process comes first; the save is in the last calls.
-                first = max(1, count - 3) if short else 1
-                if short and error not in ("ENOSPC", "EINTR"):
-                    continue
-                for number in range(first, count + 1):
-                    runs += 1
-                    wrong = fault.fails(call, error, number)
-                    if wrong:
-                        found.append(f"{kind}, {start}: {call} {number} of {count}, {error}: {wrong}")
-    print("\n".join(found + [f"{runs} failing calls, {len(found)} findings"]))
+            for wrong in findings(Save(saver, folder, kind, start), short):
+                runs += 1
+                if wrong:
+                    found.append(f"{kind}, {start}: {wrong}")
+    print("\n".join(found + [f"{runs} tamperings, {len(found)} findings"]))
     return 1 if found else 0
 
 
