@@ -36,7 +36,6 @@ MUTATIONS = (
     ("storage/ScoreLists.cpp", ".time > game.totalTime", ".time >= game.totalTime", "storage"),
     ("storage/GameFile.cpp", "line->endsWith('-')", "line->startsWith('-')", "storage"),
     ("storage/GameFile.cpp", "if (x != -1) file.failure", "if (x != -2) file.failure", "storage"),
-    ("storage/FileWriter.cpp", "if (lock.IsHeld()) Remove", "if (!lock.IsHeld()) Remove", "storage"),
     ("storage/MoveListExport.cpp", '".rtf"', '".RTF"', "storage"),
     ("solver/TourSearch.cpp", "  start_->within = free;", "", "solver"),
     ("solver/TourSearch.cpp", "level_->tries = 0;", "{}", "solver"),
@@ -47,7 +46,53 @@ MUTATIONS = (
     ("solver/Autoplay.cpp", "game.MakeRandomStartingMove();\n    window.RestoreColors(-1, -1);",
      "game.MakeRandomStartingMove();", "solver"),
     ("solver/Autoplay.cpp", "  random.Reseed();", "", "solver"),
+    ("storage/SavingFile.cpp", "return Persist([this] { return fsync(Number()); }) == 0;",
+     "return true;", "faults"),
+    ("storage/SavingFile.cpp", "return Persist([this] { return fsync(Number()); }) == 0;",
+     "fsync(Number());\n  return true;", "faults"),
+    ("storage/OpenFolder.cpp", "if (Persist([this] { return fsync(Number()); }) == 0) return true;",
+     "return true;", "faults"),
+    ("storage/OpenFolder.cpp", "return errno == EINVAL || errno == EOPNOTSUPP || errno == EBADF;",
+     "return true;", "faults"),
+    ("storage/WrittenFile.cpp", " &&\n         Persist([&] { return fsync(file); }) == 0", "",
+     "faults"),
+    ("storage/WrittenFile.cpp", "access | O_NOFOLLOW | ", "access | ", "faults"),
+    ("storage/WrittenFile.cpp", "if (before) std::ignore = PutOver(Number(), *before);", "",
+     "faults"),
+    ("storage/SavingFile.cpp", "isLocked ? HasName(file) : errno != EWOULDBLOCK", "true",
+     "faults"),
+    ("storage/SavingFile.cpp", "return flock(file.Number(), LOCK_EX | LOCK_NB) == 0;",
+     "return true;", "storage"),
+    ("storage/FileWriter.cpp", "ModeUntilRightsAreKnown = 0600", "ModeUntilRightsAreKnown = 0666",
+     "faults"),
+    ("storage/SavingFile.cpp", "O_RDONLY | O_NOFOLLOW | O_NONBLOCK", "O_RDONLY | O_NONBLOCK",
+     "storage"),
+    ("storage/SavingFile.cpp", "status.st_uid != geteuid() && status.st_uid != owner", "false",
+     "storage"),
+    ("storage/SystemCalls.h", "if (IsOpen()) close(number_);", "", "storage"),
+    ("storage/SystemCalls.h", "sigaddset(&signal_, SIGXFSZ);", "", "storage"),
+    ("storage/PathName.cpp", "PlaceOf(path).folder + '/' + text", "text", "storage"),
+    ("storage/PathName.cpp", "LongestChainOfLinks = 40", "LongestChainOfLinks = 41", "storage"),
+    ("storage/FileWriter.cpp", "old.HasOtherNames() || ", "", "storage"),
+    ("storage/FileWriter.cpp", "place.isLinked || ", "", "storage"),
+    ("storage/FileRights.cpp", "!isOwned && fchown", "false && fchown", "storage"),
+    ("storage/FileRights.cpp", "fremovexattr(to, name.constData()) == 0", "true", "storage"),
+    ("storage/FileRights.cpp", "LookAt(to, now) && now.st_mode == wanted.st_mode", "true",
+     "storage"),
+    ("storage/KeptFile.cpp", "if (stored == Stored::NotYet) onWaiting();", "", "storage"),
+    ("storage/KeptFile.cpp", "if (stored == Stored::Yes) unsaved_.clear();", "unsaved_.clear();",
+     "storage"),
+    ("storage/clsIniFile.cpp", "LargestFile = qsizetype{1024} * 1024",
+     "LargestFile = qsizetype{1024} * 1024 - 1", "storage"),
+    ("storage/clsIniFile.cpp", "if (text.size() > LargestFile)", "if (text.size() >= LargestFile)",
+     "storage"),
+    ("storage/IniText.cpp", "value[end].isHighSurrogate() && end + 1 < value.size()",
+     "value[end].isHighSurrogate() && end + 2 < value.size()", "storage"),
+    ("storage/GameFile.cpp", "number - 1 > Limits::max()", "number > Limits::max()", "storage"),
 )
+# What other than the room's own program must notice, and what that needs to be built.
+FAULTS = tuple(("python3", "-B", f"tests/faults/{name}.py", "build/dev/tests/faults/saver", "--short")
+               for name in ("storage_faults", "interlopers"))
 
 
 def run(*command, folder):
@@ -56,12 +101,13 @@ def run(*command, folder):
 
 
 def notices(copy, room):
-    program = f"{room}_tests"
+    program = "saver" if room == "faults" else f"{room}_tests"
     built = run("cmake", "--build", "build/dev", "--target", program, folder=copy)
     if built.returncode != 0:
         return f"does not compile:\n{built.stdout[-2000:]}"
-    tests = run(f"build/dev/tests/{room}/{program}", "--gtest_brief=1", folder=copy)
-    return "noticed" if tests.returncode != 0 else "NOT NOTICED"
+    tests = FAULTS if room == "faults" else ((f"build/dev/tests/{room}/{program}", "--gtest_brief=1"),)
+    passed = all(run(*command, folder=copy).returncode == 0 for command in tests)
+    return "NOT NOTICED" if passed else "noticed"
 
 
 def main():

@@ -48,6 +48,13 @@ TEST(TheClockLine, IsReadLeniently) {
   EXPECT_EQ(ParseGame(GameWithClock("-5")).elapsedHalfSeconds, -5);
 }
 
+TEST(TheClockLine, MayStandBehindAByteOrderMark) {
+  const GameFile file = ParseGame("\xEF\xBB\xBF" + GameWithClock("20-"));
+  EXPECT_EQ(file.elapsedHalfSeconds, 20);
+  EXPECT_TRUE(file.noScoreGame);
+  EXPECT_EQ(file.moves.size(), 1U);
+}
+
 TEST(TheClockLine, OverflowsBeyond32Bits) {
   EXPECT_EQ(ParseGame(GameWithClock("2147483647")).elapsedHalfSeconds, 2147483647);
   EXPECT_EQ(ParseGame(GameWithClock("-2147483647")).elapsedHalfSeconds, -2147483647);

@@ -122,6 +122,20 @@ TEST_F(TheIniFile, DoesNotGrowBeyondWhatCanBeRead) {
   EXPECT_EQ(ContentOf(path), "[S]\nKey=1\n");
 }
 
+TEST_F(TheIniFile, MayHaveAMegabyteAndNotAByteMore) {
+  constexpr qsizetype Megabyte = 1024 * 1024;
+  const QByteArray entry = "[S]\nKey=1\n;";
+  const QString path = Put("x.ini", entry + QByteArray(Megabyte - entry.size(), 'x'));
+  EXPECT_EQ(ErrorOfReading(path), "");
+  EXPECT_EQ(ErrorOfWriting(path, "2"), "");
+  EXPECT_NE(ErrorOfWriting(path, "22"), "");
+  EXPECT_EQ(ErrorOfReading(path), "");
+  EXPECT_EQ(value_, "2");
+  Put("x.ini", entry + QByteArray(Megabyte + 1 - entry.size(), 'x'));
+  EXPECT_NE(ErrorOfReading(path), "");
+  EXPECT_NE(ErrorOfWriting(path, "3"), "");
+}
+
 TEST_F(TheIniFile, IsNotReplacedWhenItCannotBeRead) {
   const QString path = Put("x.ini", "[S]\nKey=1\n");
   ASSERT_TRUE(QFile::setPermissions(Folder(), QFileDevice::Permissions(0x7777)));

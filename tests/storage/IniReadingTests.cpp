@@ -91,6 +91,9 @@ TEST(IniValue, IsNeverCutInsideACharacter) {
   EXPECT_EQ(Value("[S]\nKey=" + QByteArray("\xC3\xA9").repeated(300)), QString(255, u'\u00e9'));
   const QString knight = QString::fromUtf8("\xF0\x9F\x90\xB4");
   EXPECT_EQ(Value("[S]\nKey=" + knight.repeated(300).toUtf8()), knight.repeated(255));
+  const QString asTheLast = QString(254, u'x') + knight;
+  EXPECT_EQ(Value("[S]\nKey=" + asTheLast.toUtf8()), asTheLast);
+  EXPECT_EQ(Value("[S]\nKey=" + asTheLast.toUtf8() + 'y'), asTheLast);
 }
 
 TEST(IniValue, IsReadAsWindows1252WhereItIsNotUtf8) {
