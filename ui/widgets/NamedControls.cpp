@@ -9,6 +9,8 @@
 QGroupBox* AddFrame(QWidget* parent, const char* name, const QString& caption) {
   auto* frame = new QGroupBox(caption, parent);
   frame->setObjectName(name);
+  // Read aloud without the blank and the colon.
+  frame->setAccessibleName(caption.trimmed().remove(':'));
   return frame;
 }
 

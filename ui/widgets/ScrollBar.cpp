@@ -1,8 +1,21 @@
 #include "ui/widgets/ScrollBar.h"
 
+#include <QAccessible>
 #include <QPainter>
 
+#include "ui/widgets/AccessibleScrollBar.h"
+
+namespace {
+
+QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
+  auto* bar = dynamic_cast<ScrollBar*>(object);
+  return bar == nullptr ? nullptr : new AccessibleScrollBar(*bar);
+}
+
+}  // namespace
+
 ScrollBar::ScrollBar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
+  QAccessible::installFactory(MakeAccessible);
   setFocusPolicy(Qt::StrongFocus);
 }
 

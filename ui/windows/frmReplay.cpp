@@ -24,10 +24,15 @@ constexpr int SlowestSpeed = 20;  // tenths of a second a move
 constexpr int SpeedLargeStep = 5;
 constexpr int SeekLargeStep = 10;
 constexpr int MillisecondsOfTenth = 100;
+constexpr int TellingMilliseconds = 1000;
 constexpr const char* Tag = "tag";
 
 QString AsSeconds(std::int64_t tenths) {
   return QString::number(static_cast<double>(tenths) / 10) + " sec.";
+}
+
+QString SpokenSpeed(int tenths) {
+  return QString::number(tenths / 10.0) + (tenths == 10 ? " second" : " seconds");
 }
 
 }  // namespace
@@ -35,7 +40,8 @@ QString AsSeconds(std::int64_t tenths) {
 frmReplay::frmReplay(const CommandContext& context, QWidget* mainWindow)
     : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
       context_(context),
-      tmrAdvance_(new QTimer(this)) {
+      tmrAdvance_(new QTimer(this)),
+      announcer_(TellingMilliseconds) {
   setObjectName("frmReplay");
   setWindowTitle("Replay");
   tmrAdvance_->setObjectName("tmrAdvance");
@@ -166,9 +172,27 @@ void frmReplay::ShowPosition() {
   cmdAdvancePause_->setEnabled(!finished);
   cmdFinish_->setEnabled(!finished);
   cmdRestart_->setEnabled(finished || ReplayPosition() > 1);
+  TellPosition(finished);
   if (IsAutomatic()) return;
   SetBar(replayTotal_, ReplayPosition(), SeekLargeStep);
   lblSpeedSeekValue_->ShowValue(ReplayPosition());
+}
+
+QString frmReplay::Spoken(int move) const {
+  const MoveRow& square = context_.state.MoveList[static_cast<std::size_t>(move - 1)];
+  const QString end = move == replayTotal_ ? ", end of the game" : "";
+  return QString::number(move) + ", " + QString::fromStdString(SquareName(square.x, square.y)) +
+         end;
+}
+
+// The bar that seeks is read by itself when it has the keyboard.
+void frmReplay::TellPosition(bool finished) {
+  if (!IsAutomatic() && hsclSpeedSeekSet_->hasFocus()) return;
+  if (finished) {
+    announcer_.Say(Spoken(ReplayPosition()));
+  } else {
+    announcer_.SayProgress(Spoken(ReplayPosition()));
+  }
 }
 
 void frmReplay::lblMoveValue_Change() {
@@ -186,8 +210,10 @@ void frmReplay::hsclSpeedSeekSet_Change() {
   const int value = hsclSpeedSeekSet_->value();
   if (IsAutomatic()) {
     lblSpeedSeekValue_->ShowValue(value, AsSeconds);
+    hsclSpeedSeekSet_->SetSpokenValue(SpokenSpeed(value));
     tmrAdvance_->setInterval(value * MillisecondsOfTenth);
   } else {
+    hsclSpeedSeekSet_->SetSpokenValue(Spoken(value));
     DoUpdateReplay(value - ReplayPosition());
   }
 }
@@ -198,6 +224,7 @@ void frmReplay::SetBar(int maximum, int value, int largeStep) {
   hsclSpeedSeekSet_->setMaximum(maximum);
   hsclSpeedSeekSet_->setPageStep(largeStep);
   hsclSpeedSeekSet_->setValue(value);
+  if (!IsAutomatic()) hsclSpeedSeekSet_->SetSpokenValue(Spoken(value));
 }
 
 void frmReplay::optAdvance_Click() {
@@ -239,8 +266,10 @@ void frmReplay::cmdAdvancePause_Click() {
   } else if (tmrAdvance_->isActive()) {
     tmrAdvance_->stop();
     cmdAdvancePause_->setText("St&art");
+    announcer_.Say("paused");
   } else {
     Advance();
+    announcer_.Say("running");
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+#include "ui/application/Announcer.h"
 #include "ui/commands/CommandContext.h"
 
 class QGroupBox;
@@ -68,6 +69,9 @@ class frmReplay : public QDialog {
   // False when the goal is reached.
   bool StepTowardsGoal();
   void ShowPosition();
+  // The move and its square, as they are read aloud.
+  QString Spoken(int move) const;
+  void TellPosition(bool finished);
   void SetBar(int maximum, int value, int largeStep);
   void BeginAutomatic();
   void BeginManual();
@@ -92,4 +96,5 @@ class frmReplay : public QDialog {
   Goal goal_;
   bool stepping_ = false;
   bool closing_ = false;
+  Announcer announcer_;
 };

@@ -17,6 +17,7 @@ namespace {
 
 constexpr int RefreshSmallStep = 100;
 constexpr int RefreshLargeStep = 1000;
+constexpr int TellingMilliseconds = 10000;
 
 QString AsRefresh(std::int64_t rate) {
   return rate < 2 ? "On Every Move" : "Every" + QString::fromStdString(NumberText(rate)) + " Moves";
@@ -26,7 +27,8 @@ QString AsRefresh(std::int64_t rate) {
 
 frmSolve::frmSolve(const CommandContext& context, QWidget* mainWindow)
     : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
-      context_(context) {
+      context_(context),
+      announcer_(TellingMilliseconds) {
   setObjectName("frmSolve");
   setWindowTitle("Solve");
   auto* layout = new QVBoxLayout(this);
@@ -98,10 +100,14 @@ void frmSolve::hsclRefreshRateValue_Change() {
   const int rate = hsclRefreshRateValue_->value();
   context_.globals.settings.SolveRefreshRate = static_cast<std::int16_t>(rate);
   lblRefreshRate_->ShowValue(rate, AsRefresh);
+  hsclRefreshRateValue_->SetSpokenValue(AsRefresh(rate).toLower());
 }
 
 void frmSolve::ShowProgress() {
   ShowValues(solver_.PositionsTested - 1);
+  if (announcer_.AwaitsProgress()) {
+    announcer_.SayProgress(QString::number(shownTested_) + " tested");
+  }
 }
 
 void frmSolve::ShowValues(std::int64_t tested) {
@@ -131,6 +137,8 @@ void frmSolve::Search() {
     const QScopedValueRollback working(working_, true);
     context_.game.ExcludeFromScores();
     OfferStop(true);
+    announcer_.Say("search started");
+    announcer_.Rest();
     cmdBacktrack_->setEnabled(false);
     EndSearch(FindTour());
     OfferStop(false);
@@ -158,6 +166,7 @@ void frmSolve::EndSearch(bool solved) {
   ShowProgress();
   context_.pace.Complete();
   if (stopped) {
+    announcer_.Say("search stopped");
     cmdBacktrack_->setEnabled(solveStartMove_ < context_.state.MoveCount);
   } else if (solved) {
     context_.window.EnableClock(false);
@@ -188,6 +197,7 @@ void frmSolve::Backtrack() {
     context_.window.DoEvents();
   }
   ShowValues(0);
+  announcer_.Say("back at move " + QString::number(context_.state.MoveCount));
   cmdStartStop_->setEnabled(true);
   cmdBacktrack_->setEnabled(false);
 }

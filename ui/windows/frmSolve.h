@@ -5,6 +5,7 @@
 #include <QDialog>
 
 #include "solver/TourSolver.h"
+#include "ui/application/Announcer.h"
 #include "ui/commands/CommandContext.h"
 
 class QGridLayout;
@@ -66,4 +67,5 @@ class frmSolve : public QDialog, public SolveProgress {
   bool stopOffered_ = false;  // cmdStartStop reads "Stop"
   bool working_ = false;      // a search or a backtrack is on the stack
   bool closing_ = false;
+  Announcer announcer_;
 };
