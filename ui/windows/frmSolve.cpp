@@ -106,7 +106,7 @@ void frmSolve::hsclRefreshRateValue_Change() {
 void frmSolve::ShowProgress() {
   ShowValues(solver_.PositionsTested - 1);
   if (announcer_.AwaitsProgress()) {
-    announcer_.SayProgress(QString::number(shownTested_) + " tested");
+    announcer_.SayProgress(QString::number(solver_.PositionsTested - 1) + " tested");
   }
 }
 
