@@ -4,9 +4,8 @@
 #include <cstdint>
 
 #include "core/GameState.h"
-#include "solver/SquareSet.h"
 #include "solver/SubtreeSizes.h"
-#include "solver/TourOrder.h"
+#include "solver/Ways.h"
 
 // The bare search for a tour: depth first, in the order of TourMoveOffsets, exhaustive. It works on
 // bits of its own and can be paused after any number of entries.
@@ -17,8 +16,10 @@
 // Folding: what happens below a square depends only on the squares that can still be reached from
 // there. The same few squares are reached in the same shape over and over, so the number of entries
 // made below each of them is kept, and where it comes up again with enough entries still to be made
-// before the next pause, it is added up instead of walked. A pause always falls into a subtree that
-// is walked, and so does a tour, since a subtree with a tour in it is never left.
+// before the next pause, it is added up instead of walked. Where the knight has no choice nothing
+// is kept: such moves add one entry each to what is known of the square where it has one again. A
+// pause always falls into a subtree that is walked, and so does a tour, since a subtree with a tour
+// in it is never left.
 class TourSearch {
  public:
   enum class Outcome {
@@ -52,21 +53,20 @@ class TourSearch {
  private:
   // The search at one of its moves.
   struct Level {
-    Subtree subtree;        // from the square of this move on
-    SquareSet within = 0;   // what the knight can still get to from there
-    SquareSet targets = 0;  // its next squares, tried or not
-    SquareSet part = 0;     // the part of `within` that holds the last of them that was looked into
-    Tries tries = 0;        // still to be made
+    Subtree subtree;  // from the square of this move on
     std::int64_t entriesBefore = 0;
+    std::array<Way, 8> ways{};  // in the order of the tries
+    std::size_t wayCount = 0;
+    std::size_t waysTried = 0;
 
-    void Enter(const Subtree& newSubtree, SquareSet newTargets);
-    int TakeTry();
-    Subtree SubtreeAt(int target, SquareSet onward);
+    bool HasWaysLeft() const { return waysTried != wayCount; }
+    const Way& TakeWay() { return ways[waysTried++]; }
   };
 
-  void Stand(Level* level, const Subtree& subtree, SquareSet targets);
+  void Stand(Level* level, const Subtree& subtree);
   void Try();
   void Leave();
+  std::int64_t SizeOf(const Way& way) const;
   bool Skip(std::int64_t entries);
   bool IsTour() const;
 
