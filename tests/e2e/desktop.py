@@ -10,6 +10,7 @@ import time
 from pathlib import Path
 
 PATIENCE_SECONDS = 20
+HOLDING_SECONDS = 1
 SKIPPED = 77
 
 
@@ -21,9 +22,9 @@ def need(*tools):
         sys.exit(SKIPPED)
 
 
-def wait_for(condition, what):
+def wait_for(condition, what, seconds=PATIENCE_SECONDS):
     """The first true value of condition(); an AssertionError when it does not come in time."""
-    deadline = time.monotonic() + PATIENCE_SECONDS
+    deadline = time.monotonic() + seconds
     while True:
         value = condition()
         if value:
@@ -130,6 +131,13 @@ class Desktop:
 
     def press(self, *keys):
         self.run("xdotool", "key", *keys)
+
+    def hold(self, key, *modifiers):
+        """Holds a key down for so long that the X server repeats it many times."""
+        steps = [step for name in (*modifiers, key) for step in ("keydown", name)]
+        steps += ["sleep", str(HOLDING_SECONDS)]
+        steps += [step for name in (key, *modifiers) for step in ("keyup", name)]
+        self.run("xdotool", *steps)
 
     def type(self, text):
         self.run("xdotool", "type", text)

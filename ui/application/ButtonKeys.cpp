@@ -14,13 +14,14 @@ bool IsLetterOf(const QAbstractButton& button, const QEvent& event) {
   return !shortcut.isAmbiguous() && shortcut.key() == button.shortcut();
 }
 
-// A key that is held down presses only one button.
-bool IsEnterOn(const QAbstractButton& button, const QEvent& event) {
-  if (event.type() != QEvent::KeyPress || qobject_cast<const QPushButton*>(&button) == nullptr) {
-    return false;
-  }
+// With Shift the blank asks some buttons for their menu.
+bool IsPressOf(const QAbstractButton& button, const QEvent& event) {
+  if (event.type() != QEvent::KeyPress) return false;
   const auto& press = static_cast<const QKeyEvent&>(event);
-  return (press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter) && !press.isAutoRepeat();
+  if (press.isAutoRepeat()) return false;
+  const bool isEnter = press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
+  const bool isBlank = press.key() == Qt::Key_Space && press.modifiers() == Qt::NoModifier;
+  return isBlank || (isEnter && qobject_cast<const QPushButton*>(&button) != nullptr);
 }
 
 }  // namespace
@@ -32,7 +33,7 @@ ButtonKeys::ButtonKeys() {
 bool ButtonKeys::eventFilter(QObject* watched, QEvent* event) {
   auto* button = qobject_cast<QAbstractButton*>(watched);
   if (button == nullptr) return false;
-  if (!IsLetterOf(*button, *event) && !IsEnterOn(*button, *event)) return false;
+  if (!IsLetterOf(*button, *event) && !IsPressOf(*button, *event)) return false;
   if (button->isCheckable()) button->setFocus();
   button->click();
   return true;

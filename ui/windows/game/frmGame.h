@@ -17,6 +17,7 @@
 #include "ui/application/HelpKey.h"
 #include "ui/application/InputWatch.h"
 #include "ui/application/LateAltKey.h"
+#include "ui/application/LeftoverInput.h"
 #include "ui/commands/CommandContext.h"
 #include "ui/commands/MainWindow.h"
 #include "ui/widgets/pictures/PictureReader.h"
@@ -114,6 +115,7 @@ class frmGame : public QMainWindow, public MainWindow {
   GameState state_;
   Game game_;
   HalfSecondTimer tmrTime_;
+  std::uint32_t clockOfGame_ = 0;  // the serial number of the game that it counted for
   PicturePace pace_;
   std::unique_ptr<BoardView> board_;  // gone before what it shows
   GameMenu menu_;
@@ -129,6 +131,7 @@ class frmGame : public QMainWindow, public MainWindow {
   InputWatch inputWatch_;
   LateAltKey lateAltKey_;
   WorkGuard guard_;
+  LeftoverInput leftoverInput_;
   bool performing_ = false;
   bool resizePending_ = false;
   QRect placedBounds_;  // where the window was put before it was shown
