@@ -1,6 +1,7 @@
 #include "ui/widgets/ScrollBar.h"
 
 #include <QAccessible>
+#include <QKeyEvent>
 #include <QPainter>
 
 #include "ui/widgets/AccessibleScrollBar.h"
@@ -25,6 +26,16 @@ void ScrollBar::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::Highlight));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+// Qt's way to turn these two round would turn all other keys round as well.
+void ScrollBar::keyPressEvent(QKeyEvent* event) {
+  const int towardsEnd = isRightToLeft() ? Qt::Key_Left : Qt::Key_Right;
+  if (event->key() != Qt::Key_Left && event->key() != Qt::Key_Right) {
+    QScrollBar::keyPressEvent(event);
+  } else {
+    triggerAction(event->key() == towardsEnd ? SliderSingleStepAdd : SliderSingleStepSub);
+  }
 }
 
 void ScrollBar::focusInEvent(QFocusEvent* event) {

@@ -2,8 +2,9 @@
 
 #include <QScrollBar>
 
-// A horizontal scroll bar that shows when it has the keyboard, which the toolkit's does not. It
-// sets a value, so a screen reader meets it as a spin button, with the value in words.
+// A horizontal scroll bar that shows when it has the keyboard, which Qt's does not, and whose arrow
+// keys lead where they point: Qt's Left leads to the right. It sets a value, so a screen reader
+// meets it as a spin button, with the value in words.
 class ScrollBar : public QScrollBar {
   Q_OBJECT
 
@@ -16,6 +17,7 @@ class ScrollBar : public QScrollBar {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
