@@ -66,6 +66,44 @@ TEST_F(ReplayWalk, AdvancesFromTheFirstSquareWhenRestartIsPressed) {
   });
 }
 
+TEST_F(ReplayWalk, RunsAgainOnlyWhenItIsBackOnTheFirstSquare) {
+  Watch(40, [&](frmReplay& replay) {
+    Shown(replay).Automatic().click();
+    Shown(replay).Button("cmdAdvancePause").click();
+    replay.DoUpdateReplay(20);
+    WhileWalking([&] {
+      EXPECT_FALSE(Shown(replay).Timer().isActive());
+      EXPECT_EQ(Shown(replay).Caption(), "St&art");
+    });
+    replay.cmdRestart_Click();
+    EXPECT_TRUE(Shown(replay).Timer().isActive());
+    EXPECT_EQ(Shown(replay).Caption(), "P&ause");
+  });
+}
+
+TEST_F(ReplayWalk, HasItsCaptionChangedOnlyWhenItIsFinished) {
+  Watch(40, [&](frmReplay& replay) {
+    Shown(replay).Automatic().click();
+    Shown(replay).Button("cmdAdvancePause").click();
+    WhileWalking([&] { EXPECT_EQ(Shown(replay).Caption(), "St&art"); });
+    replay.cmdFinish_Click();
+    EXPECT_EQ(Shown(replay).Caption(), "P&ause");
+  });
+}
+
+TEST_F(ReplayWalk, ShowsTheEndWhenThePlayerSkipsThereAtClosing) {
+  Watch(40, [&](frmReplay& replay) {
+    Shown(replay).Automatic().click();
+    Shown(replay).Button("cmdAdvancePause").click();
+    window.answers = {PlayerSays::Yes};
+    replay.cmdClose_Click();
+    EXPECT_TRUE(Agrees(replay));
+    EXPECT_EQ(Shown(replay).Text("lblMoveValue"), "40");
+    EXPECT_FALSE(Shown(replay).IsOn("cmdFinish"));
+    EXPECT_EQ(Shown(replay).Caption(), "P&ause");
+  });
+}
+
 TEST_F(ReplayWalk, IsNotDisturbedByATick) {
   Watch(40, [&](frmReplay& replay) {
     WhileWalking([&] {

@@ -23,6 +23,13 @@ TEST_F(SolveClosing, IsReadyAgainAfterBacktracking) {
   EXPECT_EQ(Values(), "45/0/C5");
 }
 
+TEST_F(SolveClosing, WritesTheCaptionAnewWhenItHasBacktracked) {
+  Open(Positions::Solvable);
+  Press("cmdStartStop");
+  Press("cmdBacktrack");
+  EXPECT_EQ(window.Caption(), "Gallopade Nova: 45 - 0:00:00.0");
+}
+
 TEST_F(SolveClosing, BacktracksOnlyOnceWhenItIsPressedAgainOnTheWay) {
   Open(Positions::Solvable);
   Press("cmdStartStop");

@@ -34,6 +34,5 @@ void mnuFileSolve_Click(const CommandContext& context) {
     context.game.ClearRedo();
   }
   context.game.GoOnOrFinish();
-  context.game.DoCaption();
   context.window.CatchUpOnResize();
 }

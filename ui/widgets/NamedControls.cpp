@@ -31,6 +31,11 @@ QLabel* AddLabel(QWidget* parent, const char* name, const QString& text) {
   return label;
 }
 
+void DisableAndFocus(QWidget& control, QWidget& next) {
+  if (control.window()->focusWidget() == &control) next.setFocus();
+  control.setEnabled(false);
+}
+
 ValueLabel* AddValueLabel(PicturePace& pace, QWidget* parent, const char* name,
                           const QString& longest) {
   auto* label = new ValueLabel(pace, longest, parent);

@@ -20,6 +20,10 @@ QRadioButton* AddOption(QWidget* parent, const QString& name, const QString& cap
 // Shows its text as it stands, never as markup.
 QLabel* AddLabel(QWidget* parent, const char* name, const QString& text);
 
+// Disables a control. If it had the keyboard, an enabled one gets it next, and not, as Qt would
+// have it, whatever comes after it in the window: that may be the button that closes it.
+void DisableAndFocus(QWidget& control, QWidget& next);
+
 // For a value that changes fast: the label has the size of the longest text. The pace outlives it.
 ValueLabel* AddValueLabel(PicturePace& pace, QWidget* parent, const char* name,
                           const QString& longest);

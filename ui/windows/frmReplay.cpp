@@ -143,17 +143,25 @@ void frmReplay::DoUpdateReplay(int Delta) {
 
 void frmReplay::StepTo(const Goal& goal) {
   if (closing_) return;
-  goal_ = {std::clamp(goal.position, 1, replayTotal_), goal.restart};
+  goal_ = {std::clamp(goal.position, 1, replayTotal_), goal.walk};
   if (stepping_) return;
+  WalkToGoal();
+  if (closing_) Leave();
+}
+
+// The goal may have become another on the way.
+void frmReplay::WalkToGoal() {
   StepToGoal();
   ShowPosition();
-  if (closing_) Leave();
+  if (!IsAutomatic()) return;
+  if (goal_.walk == Walk::Finish) cmdAdvancePause_->setText("P&ause");
+  if (goal_.walk == Walk::Restart) Advance();
 }
 
 void frmReplay::StepToGoal() {
   const QScopedValueRollback stepping(stepping_, true);
   while (StepTowardsGoal()) context_.window.DoEvents();
-  if (goal_.restart) context_.game.mnuFileRestart_Click();
+  if (goal_.walk == Walk::Restart) context_.game.mnuFileRestart_Click();
 }
 
 bool frmReplay::StepTowardsGoal() {
@@ -167,11 +175,9 @@ void frmReplay::ShowPosition() {
   lblMoveValue_->ShowValue(ReplayPosition());
   lblMoveValue_Change();
   // A restarted replay is on offer again, even of one square: its first step ends it.
-  const bool finished = ReplayPosition() == replayTotal_ && !goal_.restart;
+  const bool finished = ReplayPosition() == replayTotal_ && goal_.walk != Walk::Restart;
   if (finished) tmrAdvance_->stop();
-  cmdAdvancePause_->setEnabled(!finished);
-  cmdFinish_->setEnabled(!finished);
-  cmdRestart_->setEnabled(finished || ReplayPosition() > 1);
+  OfferButtons(finished);
   TellPosition(finished);
   if (IsAutomatic()) return;
   SetBar(replayTotal_, ReplayPosition(), SeekLargeStep);
@@ -193,6 +199,19 @@ void frmReplay::TellPosition(bool finished) {
   } else {
     announcer_.SayProgress(Spoken(ReplayPosition()));
   }
+}
+
+void frmReplay::OfferButtons(bool finished) {
+  const bool hasBegun = finished || ReplayPosition() > 1;
+  if (hasBegun) cmdRestart_->setEnabled(true);
+  for (QPushButton* button : {cmdAdvancePause_, cmdFinish_}) {
+    if (finished) {
+      DisableAndFocus(*button, *cmdRestart_);
+    } else {
+      button->setEnabled(true);
+    }
+  }
+  if (!hasBegun) DisableAndFocus(*cmdRestart_, *cmdAdvancePause_);
 }
 
 void frmReplay::lblMoveValue_Change() {
@@ -275,14 +294,12 @@ void frmReplay::cmdAdvancePause_Click() {
 
 void frmReplay::cmdFinish_Click() {
   tmrAdvance_->stop();
-  if (IsAutomatic()) cmdAdvancePause_->setText("P&ause");
-  StepTo({.position = replayTotal_});
+  StepTo({.position = replayTotal_, .walk = Walk::Finish});
 }
 
-// The timer may run at once: its ticks wait until the knight is back.
 void frmReplay::cmdRestart_Click() {
-  if (IsAutomatic()) Advance();
-  StepTo({.position = 1, .restart = true});
+  tmrAdvance_->stop();
+  StepTo({.position = 1, .walk = Walk::Restart});
 }
 
 void frmReplay::cmdClose_Click() {
@@ -299,8 +316,8 @@ void frmReplay::done(int) {
 void frmReplay::Leave() {
   if (cmdFinish_->isEnabled() &&
       context_.window.Ask("End Replay", "Would you like to skip to the end?")) {
-    goal_ = {.position = replayTotal_};
-    StepToGoal();
+    goal_ = {.position = replayTotal_, .walk = Walk::Finish};
+    WalkToGoal();
   }
   SaveSettings();
   QDialog::done(Rejected);

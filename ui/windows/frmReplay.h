@@ -51,9 +51,10 @@ class frmReplay : public QDialog {
 
  private:
   enum Advancement { Automatic, Manual };  // the indices of optAdvance
+  enum class Walk { Step, Finish, Restart };
   struct Goal {
     int position = 1;
-    bool restart = false;  // the menus then become those of a restarted game
+    Walk walk = Walk::Step;  // what a walk there ends with
   };
 
   QGroupBox* AddKnightFrame();
@@ -65,6 +66,7 @@ class frmReplay : public QDialog {
   int ReplayPosition() const { return context_.state.MoveCount; }
   bool IsAutomatic() const;
   void StepTo(const Goal& goal);
+  void WalkToGoal();
   void StepToGoal();
   // False when the goal is reached.
   bool StepTowardsGoal();
@@ -72,6 +74,7 @@ class frmReplay : public QDialog {
   // The move and its square, as they are read aloud.
   QString Spoken(int move) const;
   void TellPosition(bool finished);
+  void OfferButtons(bool finished);
   void SetBar(int maximum, int value, int largeStep);
   void BeginAutomatic();
   void BeginManual();

@@ -139,7 +139,7 @@ void frmSolve::Search() {
     OfferStop(true);
     announcer_.Say("search started");
     announcer_.Rest();
-    cmdBacktrack_->setEnabled(false);
+    DisableAndFocus(*cmdBacktrack_, *cmdStartStop_);
     EndSearch(FindTour());
     OfferStop(false);
   }
@@ -172,8 +172,8 @@ void frmSolve::EndSearch(bool solved) {
     context_.window.EnableClock(false);
     context_.window.Tell("Solved Successfully", "The game has been solved!",
                          MessageIcon::Information);
-    cmdStartStop_->setEnabled(false);
     cmdBacktrack_->setEnabled(true);
+    DisableAndFocus(*cmdStartStop_, *cmdBacktrack_);
   } else {
     context_.window.Tell("No Solution",
                          "At the current position, there is no solution to this game.\n"
@@ -197,9 +197,10 @@ void frmSolve::Backtrack() {
     context_.window.DoEvents();
   }
   ShowValues(0);
+  context_.game.DoCaption();
   announcer_.Say("back at move " + QString::number(context_.state.MoveCount));
   cmdStartStop_->setEnabled(true);
-  cmdBacktrack_->setEnabled(false);
+  DisableAndFocus(*cmdBacktrack_, *cmdStartStop_);
 }
 
 void frmSolve::cmdClose_Click() {
