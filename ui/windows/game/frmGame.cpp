@@ -1,5 +1,7 @@
 #include "ui/windows/game/frmGame.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -107,7 +109,9 @@ void frmGame::SetCaption(const std::string& caption) {
   setWindowTitle(QString::fromStdString(caption));
 }
 
+// What has begun of a half second belongs to the game that it began in.
 void frmGame::EnableClock(bool enabled) {
+  if (std::exchange(clockOfGame_, state_.GameSerial) != state_.GameSerial) tmrTime_.BeginAnew();
   tmrTime_.SetEnabled(enabled);
 }
 
