@@ -1,47 +1,21 @@
 #include "ui/application/FileDialogs.h"
 
-#include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMimeDatabase>
 
-#include "ui/application/MessageBoxes.h"
-
-namespace {
-
-// A directory that is gone and has no separator at its end would be taken for the name of a file.
-QString AsDirectory(const QString& text) {
-  return text.endsWith('/') ? text : text + '/';
-}
-
-}  // namespace
+#include "ui/application/FileDialog.h"
 
 QString ChooseFileToOpen(QWidget& mainWindow, const FileQuestion& question) {
-  FileIcons icons;
-  QFileDialog dialog(DialogParent(mainWindow), QString(), AsDirectory(question.directory),
-                     ToolkitNameFilters(question.filter));
-  dialog.setIconProvider(&icons);
-  dialog.setOption(QFileDialog::HideNameFilterDetails);
+  FileDialog dialog(mainWindow, "Open", question);
   dialog.setFileMode(question.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+  return dialog.exec() == QDialog::Accepted ? dialog.Chosen() : QString();
 }
 
 QString ChooseFileToSave(QWidget& mainWindow, const FileQuestion& question) {
-  FileIcons icons;
-  QFileDialog dialog(DialogParent(mainWindow), QString(), AsDirectory(question.directory),
-                     ToolkitNameFilters(question.filter));
-  dialog.setIconProvider(&icons);
-  dialog.setOption(QFileDialog::HideNameFilterDetails);
+  FileDialog dialog(mainWindow, "Save As", question);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
-  while (dialog.exec() == QDialog::Accepted) {
-    QString pathName = dialog.selectedFiles().value(0);
-    if (QFileInfo(pathName).absoluteDir().exists()) return pathName;
-    TellMessage(mainWindow, dialog.windowTitle(),
-                pathName + "\nPath does not exist.\nVerify that it is the right one.",
-                MessageIcon::Exclamation);
-  }
-  return {};
+  return dialog.exec() == QDialog::Accepted ? dialog.Chosen() : QString();
 }
 
 QString ToolkitNameFilters(const QString& filter) {

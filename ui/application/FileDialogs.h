@@ -14,7 +14,8 @@ struct FileQuestion {
 };
 
 // Each gives the chosen path, empty when cancelled. A file to save may exist, and the player has
-// then agreed to overwrite it. The dialogs belong to the topmost dialog, or to the main window.
+// then agreed to overwrite it. A name is taken as it is typed, with whatever characters it has. The
+// dialogs belong to the topmost dialog, or to the main window.
 QString ChooseFileToOpen(QWidget& mainWindow, const FileQuestion& question);
 QString ChooseFileToSave(QWidget& mainWindow, const FileQuestion& question);
 

@@ -4,6 +4,20 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include "ui/widgets/LongText.h"
+
+namespace {
+
+constexpr int CharactersOfLine = 60;
+
+// As markup that shows the text as it stands: a text that looks like markup would be taken for it.
+QString ToolTipOf(const QString& text) {
+  const QString lines = InLines(text, CharactersOfLine).toHtmlEscaped();
+  return "<p style='white-space:pre'>" + lines + "</p>";
+}
+
+}  // namespace
+
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
 }
@@ -18,9 +32,8 @@ QString ElidedLabel::ShownText() const {
 
 bool ElidedLabel::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QLabel::event(event);
-  // As markup, so that the toolkit breaks it into lines; escaped, so that it has no other effect.
-  const QString all = ShownText() == text() ? QString() : "<p>" + text().toHtmlEscaped() + "</p>";
-  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), all, this);
+  const QString tip = ShownText() == text() ? QString() : ToolTipOf(text());
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
   return true;
 }
 

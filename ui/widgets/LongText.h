@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+
+// A text in lines of so many characters at most, joined by line breaks. It is broken between words
+// where it can be, and a word that is longer than a line anywhere.
+QString InLines(const QString& text, int charactersOfLine);
