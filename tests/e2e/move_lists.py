@@ -4,7 +4,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from desktop import Desktop, copy_of_program, wait_for
+from desktop import PATIENCE_SECONDS, Desktop, copy_of_program, wait_for
 from pages import columns_of, expected_columns, pages, squares_of
 
 GAME = Path(__file__).parent.parent / "data" / "beverley-first-40.knight"
@@ -20,11 +20,12 @@ class MoveListTest(unittest.TestCase):
         self.program = copy_of_program(self.program_directory, self.folder) / "GallopadeNova"
 
     def open_move_history(self):
-        self.desktop.start_program(self.program, GAME)
+        program = self.desktop.start_program(self.program, GAME)
         game = self.desktop.window("^Gallopade Nova: 40 ")
         self.desktop.focus(game)
         self.choose("alt+v", "m")
         self.desktop.focus(self.desktop.window("^Move History$"))
+        return program
 
     def choose(self, menu, entry):
         before = self.windows()
@@ -35,8 +36,10 @@ class MoveListTest(unittest.TestCase):
     def windows(self):
         return len(self.desktop.run("xdotool", "search", "--onlyvisible", "--name", "").split())
 
-    def says_sorry(self):
-        self.desktop.window(r"^Sorry\.\.\.$")
+    def says_sorry(self, after_seconds=0):
+        wait_for(lambda: self.desktop.has_window(r"^Sorry\.\.\.$"), "the message",
+                 after_seconds + PATIENCE_SECONDS)
+        self.desktop.focus(self.desktop.window(r"^Sorry\.\.\.$"))
         self.desktop.press("Return")
         wait_for(lambda: not self.desktop.has_window(r"^Sorry\.\.\.$"), "the message to go")
         self.desktop.press("Escape")

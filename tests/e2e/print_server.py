@@ -5,6 +5,8 @@ import shutil
 import socket
 import subprocess
 import tempfile
+import threading
+import time
 from pathlib import Path
 
 from desktop import wait_for
@@ -58,6 +60,42 @@ mv '{folder}/printed.part' '{folder}/printed.pdf'
 """
 
 
+# A printer whose paper is not the one of the country.
+PPD = """\
+*PPD-Adobe: "4.3"
+*FormatVersion: "4.3"
+*FileVersion: "1.0"
+*LanguageVersion: English
+*LanguageEncoding: ISOLatin1
+*PCFileName: "KEEPER.PPD"
+*Product: "(Keeper)"
+*Manufacturer: "Test"
+*ModelName: "Keeper"
+*ShortNickName: "Keeper"
+*NickName: "Keeper"
+*PSVersion: "(3010.000) 0"
+*LanguageLevel: "3"
+*ColorDevice: False
+*cupsFilter2: "application/pdf application/pdf 0 -"
+*OpenUI *PageSize/Media Size: PickOne
+*DefaultPageSize: Legal
+*PageSize A4/A4: ""
+*PageSize Legal/US Legal: ""
+*CloseUI: *PageSize
+*OpenUI *PageRegion/Media Size: PickOne
+*DefaultPageRegion: Legal
+*PageRegion A4/A4: ""
+*PageRegion Legal/US Legal: ""
+*CloseUI: *PageRegion
+*DefaultImageableArea: Legal
+*ImageableArea A4/A4: "0 0 595 842"
+*ImageableArea Legal/US Legal: "0 0 612 1008"
+*DefaultPaperDimension: Legal
+*PaperDimension A4/A4: "595 842"
+*PaperDimension Legal/US Legal: "612 1008"
+"""
+
+
 class PrintServer:
     """Entered as a context. Programs find it by the environment variable CUPS_SERVER."""
 
@@ -100,8 +138,68 @@ class PrintServer:
         self._run("lpadmin", "-p", PRINTER, "-E", "-v", "keep:/")
         self._run("lpadmin", "-d", PRINTER)
 
+    def take_legal_paper(self):
+        """By the description that printers have of themselves."""
+        self._run("lpadmin", "-p", PRINTER, "-P", self._write("keeper.ppd", PPD))
+
+    def jobs(self):
+        """What is in the queue and not printed yet."""
+        environment = {"CUPS_SERVER": self.address, "PATH": os.environ["PATH"]}
+        return subprocess.run(["lpstat", "-o"], env=environment, check=True, capture_output=True,
+                              text=True).stdout
+
     def reject_jobs(self):
         self._run("cupsreject", PRINTER)
+
+
+class SlowServer:
+    """Stands before a server and takes its time over each request."""
+
+    def __init__(self, server, seconds):
+        self.server = server
+        self.seconds = seconds
+
+    def __enter__(self):
+        self.folder = tempfile.mkdtemp(prefix="slow-")
+        self.address = os.path.join(self.folder, "cups.sock")
+        self.listener = socket.socket(socket.AF_UNIX)
+        self.listener.bind(self.address)
+        self.listener.listen(16)
+        threading.Thread(target=self._serve, daemon=True).start()
+        return self
+
+    def __exit__(self, *_):
+        self.listener.close()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def _serve(self):
+        while True:
+            try:
+                client = self.listener.accept()[0]
+            except OSError:
+                return
+            threading.Thread(target=self._connect, args=(client,), daemon=True).start()
+
+    def _connect(self, client):
+        with client, socket.socket(socket.AF_UNIX) as server:
+            server.connect(self.server.address)
+            answers = threading.Thread(target=self._pass, args=(server, client), daemon=True)
+            answers.start()
+            self._pass(client, server)
+            answers.join()
+
+    def _pass(self, source, target):
+        while True:
+            try:
+                data = source.recv(65536)
+                if data.startswith((b"POST ", b"GET ")):
+                    time.sleep(self.seconds)
+                if not data:
+                    target.shutdown(socket.SHUT_WR)
+                    return
+                target.sendall(data)
+            except OSError:
+                return
 
 
 class SilentServer:

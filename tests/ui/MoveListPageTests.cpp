@@ -27,7 +27,7 @@ class MoveListOnPaper : public testing::Test {
         R"re(<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="[\d.]+" yMax="([\d.]+)">(.*)</word>)re");
     QProcess reader;
     reader.start("pdftotext", {"-bbox", "-", "-"});
-    reader.write(MoveListPage(Lines(moves), "1.0"));
+    reader.write(MoveListPage(Lines(moves), "1.0", QPageSize(QPageSize::A4)));
     reader.closeWriteChannel();
     EXPECT_TRUE(reader.waitForFinished());
     QList<Word> words;

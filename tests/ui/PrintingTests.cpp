@@ -1,41 +1,43 @@
 #include <QAbstractButton>
 #include <QFile>
+#include <QLabel>
 #include <QMenu>
-#include <QProcess>
 #include <QTest>
 
 #include "tests/ui/HistoryDesk.h"
 
 namespace {
 
-// A desk whose print command is a script of the test.
+constexpr const char* Keep = "echo \"$@\" > arguments\ncat > part\nmv part page.pdf\n";
+
+// A desk whose print commands are scripts of the test.
 class Printing : public HistoryDesk {
  protected:
   enum class Outcome { Page, Message };
 
-  Printing() : path_(qgetenv("PATH")) { QCoreApplication::setApplicationVersion("1.0.0"); }
+  Printing() : path_(qgetenv("PATH")) {
+    QCoreApplication::setApplicationVersion("1.0.0");
+    EXPECT_TRUE(QDir().mkpath(ProgramFile("commands")));
+    qputenv("PATH", ProgramFile("commands").toUtf8());
+  }
   ~Printing() override { qputenv("PATH", path_); }
 
-  // Without a script there is no print command at all.
-  void PrintBy(const QByteArray& script) {
-    const QString folder = ProgramFile("commands");
-    ASSERT_TRUE(QDir().mkpath(folder));
-    if (!script.isEmpty()) {
-      QFile command(folder + "/lp");
-      ASSERT_TRUE(command.open(QIODevice::WriteOnly));
-      command.write("#!/bin/sh\nPATH=" + path_ + "\ncd '" + folder.toUtf8() + "'\n" + script);
-      command.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-    qputenv("PATH", folder.toUtf8());
+  // Without this there is no such command at all.
+  void Command(const QString& name, const QByteArray& script) {
+    QFile command(ProgramFile("commands/" + name));
+    ASSERT_TRUE(command.open(QIODevice::WriteOnly));
+    const QByteArray folder = ProgramFile("commands").toUtf8();
+    command.write("#!/bin/sh\nPATH=" + path_ + "\ncd '" + folder + "'\n" + script);
+    command.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
   }
+  void PrintBy(const QByteArray& script) { Command("lp", script); }
 
   // Prints the moves of the game and waits for the end.
   void Print(Outcome expected) {
     Read("mnuViewHistory", [=, this](frmHistory& history, QListWidget&) {
       if (expected == Outcome::Message) ExpectAMessage();
       Child<QAction>(history, "mnuEditPrint").trigger();
-      EXPECT_FALSE(Main(history).isEnabled());
-      EXPECT_TRUE(QTest::qWaitFor([&] { return Main(history).isEnabled() && AllVisitsMade(); }));
+      EXPECT_TRUE(QTest::qWaitFor([&] { return !IsPrinting(history) && AllVisitsMade(); }));
     });
   }
 
@@ -45,7 +47,12 @@ class Printing : public HistoryDesk {
            QMessageBox::Ok);
   }
 
-  static constexpr const char* Keep = "echo \"$@\" > arguments\ncat > page.pdf\n";
+  static QString Sign(const frmHistory& history) {
+    return history.findChild<QLabel*>("lblPrinting")->text();
+  }
+  static bool IsPrinting(const frmHistory& history) { return Sign(history) == "Printing..."; }
+
+  bool IsPrinted() { return Contents("commands/page.pdf").trimmed().endsWith("%%EOF"); }
 
  private:
   QByteArray path_;
@@ -59,7 +66,15 @@ TEST_F(Printing, HandsThePrintCommandADocument) {
   Print(Outcome::Page);
   EXPECT_EQ(Contents("commands/arguments"), "-t Move List\n");
   EXPECT_TRUE(Contents("commands/page.pdf").startsWith("%PDF-"));
-  EXPECT_TRUE(Contents("commands/page.pdf").trimmed().endsWith("%%EOF"));
+  EXPECT_TRUE(IsPrinted());
+}
+
+TEST_F(Printing, IsForThePaperThatTheQueueHas) {
+  Command("lpoptions", "[ \"$*\" = -l ] && echo 'PageSize/Media Size: A4 *Letter Legal'\n");
+  PrintBy(Keep);
+  OpenGame(3);
+  Print(Outcome::Page);
+  EXPECT_TRUE(Contents("commands/page.pdf").contains("/MediaBox [0 0 612.000000 792.000000]"));
 }
 
 TEST_F(Printing, SaysSorryWhenTheDocumentIsRefused) {
@@ -75,13 +90,6 @@ TEST_F(Printing, SaysSorryWhenThePrintCommandCrashes) {
 }
 
 TEST_F(Printing, SaysSorryWhenThereIsNoPrintCommand) {
-  PrintBy(QByteArray());
-  OpenGame(3);
-  Print(Outcome::Message);
-}
-
-TEST_F(Printing, SaysSorryWhenThereIsNoAnswer) {
-  PrintBy("exec sleep 1000\n");
   OpenGame(3);
   Print(Outcome::Message);
 }
@@ -91,24 +99,72 @@ TEST_F(Printing, CanBeTriedAgain) {
   OpenGame(3);
   Print(Outcome::Message);
   Print(Outcome::Page);
-  EXPECT_TRUE(Contents("commands/page.pdf").startsWith("%PDF-"));
+  EXPECT_TRUE(IsPrinted());
 }
 
-TEST_F(Printing, IsFinishedWhenTheWindowIsClosedAtOnce) {
+TEST_F(Printing, ShowsThatItIsUnderWayAndThatItIsDone) {
+  PrintBy("until [ -e go ]; do sleep 0.01; done\n");
+  OpenGame(3);
+  Read("mnuViewHistory", [this](frmHistory& history, QListWidget& list) {
+    auto& print = Child<QAction>(history, "mnuEditPrint");
+    EXPECT_EQ(Sign(history), "");
+    print.trigger();
+    EXPECT_EQ(Sign(history), "Printing...");
+    EXPECT_FALSE(print.isEnabled());
+    EXPECT_TRUE(list.isEnabled() && Main(history).isEnabled());
+    EXPECT_TRUE(QFile(ProgramFile("commands/go")).open(QIODevice::WriteOnly));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !IsPrinting(history); }));
+    EXPECT_EQ(Sign(history), "Sent to the printer.");
+    EXPECT_TRUE(print.isEnabled());
+  });
+}
+
+TEST_F(Printing, LeavesTheKeyboardWhereItIs) {
   PrintBy(Keep);
+  OpenGame(3);
+  Read("mnuViewHistory", [](frmHistory& history, QListWidget&) {
+    Main(history).setFocus();
+    Child<QAction>(history, "mnuEditPrint").trigger();
+    EXPECT_EQ(history.focusWidget(), &Main(history));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !IsPrinting(history); }));
+    EXPECT_EQ(history.focusWidget(), &Main(history));
+  });
+}
+
+TEST_F(Printing, GoesOnWhenTheWindowIsClosedAtOnce) {
+  PrintBy("until [ -e go ]; do sleep 0.01; done\n" + QByteArray(Keep));
   OpenGame(3);
   Read("mnuViewHistory", [](frmHistory& history, QListWidget&) {
     Child<QAction>(history, "mnuEditPrint").trigger();
     history.cmdClose_Click();
-    EXPECT_TRUE(history.isVisible());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !history.isVisible(); }));
+    EXPECT_FALSE(history.isVisible());
   });
-  EXPECT_TRUE(Contents("commands/page.pdf").trimmed().endsWith("%%EOF"));
+  Read("mnuViewHistory", [this](frmHistory& history, QListWidget&) {
+    EXPECT_TRUE(IsPrinting(history));
+    EXPECT_TRUE(QFile(ProgramFile("commands/go")).open(QIODevice::WriteOnly));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !IsPrinting(history); }));
+  });
+  EXPECT_TRUE(IsPrinted());
+}
+
+TEST_F(Printing, SaysSorryAlsoWhenTheWindowIsClosedByThen) {
+  PrintBy("until [ -e go ]; do sleep 0.01; done\nexit 1\n");
+  OpenGame(3);
+  Read("mnuViewHistory", [](frmHistory& history, QListWidget&) {
+    Child<QAction>(history, "mnuEditPrint").trigger();
+  });
+  WhenNextModalOpens([this](QWidget& about) {
+    EXPECT_TRUE(QFile(ProgramFile("commands/go")).open(QIODevice::WriteOnly));
+    about.close();
+  });
+  Choose("mnuHelpAbout");
+  ExpectAMessage();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return AllVisitsMade(); }));
 }
 
 TEST_F(Printing, LeavesNoFileOpenHoweverOftenItFails) {
   const auto openFiles = [] { return QDir("/proc/self/fd").count(); };
-  for (const char* script : {"", "exit 1\n", "kill -9 $$\n"}) {
+  for (const char* script : {"exit 1\n", "kill -9 $$\n"}) {
     PrintBy(script);
     OpenGame(3);
     Print(Outcome::Message);

@@ -1,5 +1,9 @@
 #include "ui/windows/game/ScreenWindows.h"
 
+#include <QApplication>
+#include <QTimer>
+
+#include "ui/commands/MoveHistory.h"
 #include "ui/windows/animations/Canvas.h"
 #include "ui/windows/animations/frmAbout.h"
 #include "ui/windows/animations/frmWin.h"
@@ -11,6 +15,34 @@
 #include "ui/windows/history/frmHistory.h"
 #include "ui/windows/preferences/frmPreferences.h"
 #include "ui/windows/scores/frmScores.h"
+
+namespace {
+
+constexpr int RetryMilliseconds = 100;
+
+}  // namespace
+
+ScreenWindows::ScreenWindows(frmGame& mainWindow) : mainWindow_(mainWindow), printer_({}) {
+  QObject::connect(&printer_, &DefaultPrinter::Finished, &printer_, [this](bool printed) {
+    if (!printed) ReportPrintingFailure();
+  });
+}
+
+// At once in the window that it was asked in; when that is closed, as soon as nothing else is going
+// on.
+void ScreenWindows::ReportPrintingFailure() {
+  const CommandContext& context = mainWindow_.Context();
+  const auto report = [&context] {
+    const ClockPause pause(context);
+    ::ReportPrintingFailure(context);
+  };
+  const QWidget* dialog = QApplication::activeModalWidget();
+  if (dialog != nullptr && dialog->objectName() == "frmHistory") {
+    report();
+  } else if (dialog != nullptr || !mainWindow_.Perform(report)) {
+    QTimer::singleShot(RetryMilliseconds, &printer_, [this] { ReportPrintingFailure(); });
+  }
+}
 
 void ScreenWindows::ShowSolve(int startMove) {
   frmSolve window(mainWindow_.Context(), &mainWindow_);
@@ -27,13 +59,13 @@ void ScreenWindows::ShowReplay(int total) {
 }
 
 void ScreenWindows::ShowMoveHistory() {
-  frmHistory window(mainWindow_.Context(), &mainWindow_);
+  frmHistory window(mainWindow_.Context(), printer_, &mainWindow_);
   window.ListMoves();
   window.exec();
 }
 
 void ScreenWindows::ShowCommandHistory() {
-  frmHistory window(mainWindow_.Context(), &mainWindow_);
+  frmHistory window(mainWindow_.Context(), printer_, &mainWindow_);
   window.ListCommands();
   window.exec();
 }

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "ui/commands/SecondaryWindows.h"
+#include "ui/windows/history/DefaultPrinter.h"
 
 class frmGame;
 
 // The secondary windows on the screen: each is made when it is shown and gone when it is closed.
 class ScreenWindows : public SecondaryWindows {
  public:
-  explicit ScreenWindows(frmGame& mainWindow) : mainWindow_(mainWindow) {}
+  explicit ScreenWindows(frmGame& mainWindow);
 
   void ShowSolve(int startMove) override;
   void ShowReplay(int total) override;
@@ -21,5 +22,8 @@ class ScreenWindows : public SecondaryWindows {
   void ShowHelp(const QString& topic) override;
 
  private:
+  void ReportPrintingFailure();
+
   frmGame& mainWindow_;
+  DefaultPrinter printer_;  // goes on when the window that it was asked in is closed
 };

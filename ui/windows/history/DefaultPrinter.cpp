@@ -1,38 +1,81 @@
 #include "ui/windows/history/DefaultPrinter.h"
 
+#include <utility>
+
+#include <QRegularExpression>
+
+#include "ui/windows/history/Paper.h"
+
 namespace {
 
-constexpr int PatienceMilliseconds = 2000;
+constexpr const char* AskForJobs = "lpstat -u \"$(id -un)\"";
+constexpr const char* AskForPaperAndJobs = "lpoptions -l; lpstat -u \"$(id -un)\"";
+
+// "Keeper-12   somebody   1024   Sun Nov 22 00:00:00 2026": a line for each job.
+QStringList JobsIn(const QByteArray& answers) {
+  static const QRegularExpression job("^(\\S+-\\d+)\\s", QRegularExpression::MultilineOption);
+  QStringList jobs;
+  for (const auto& match : job.globalMatch(QString::fromUtf8(answers))) jobs += match.captured(1);
+  return jobs;
+}
 
 }  // namespace
 
-DefaultPrinter::DefaultPrinter() {
-  command_.setStandardOutputFile(QProcess::nullDevice());
-  command_.setStandardErrorFile(QProcess::nullDevice());
-  connect(&command_, &QProcess::finished, this,
-          [this](int exitCode, QProcess::ExitStatus exitStatus) {
-            Finish(exitStatus == QProcess::NormalExit && exitCode == 0);
-          });
-  connect(&command_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-    if (error == QProcess::FailedToStart) Finish(false);
+DefaultPrinter::DefaultPrinter(const Patience& patience) : patience_(patience) {
+  watch_.setSingleShot(true);
+  watch_.setInterval(patience_.untilAsked);
+  connect(&watch_, &QTimer::timeout, this, &DefaultPrinter::AskWhetherServerIsAlive);
+}
+
+// The server is asked first for what the document needs to know, and for what tells its job from
+// others should it be withdrawn.
+void DefaultPrinter::Print(const QString& title, MakeDocument makeDocument) {
+  title_ = title;
+  makeDocument_ = std::move(makeDocument);
+  stay_.emplace();
+  question_.Run(AskForPaperAndJobs, {}, {}, patience_.answer,
+                [this](const ShellCommand::Result& result) {
+                  result.exitCode ? Send(result.output) : Finish(false);
+                });
+}
+
+void DefaultPrinter::Send(const QByteArray& answers) {
+  jobsBefore_ = JobsIn(answers);
+  const QPageSize paper = DefaultPaperIn(answers).value_or(PaperOfLocale());
+  watch_.start();
+  job_.Run("exec lp -t \"$1\"", {title_}, makeDocument_(paper), patience_.document,
+           [this](const ShellCommand::Result& result) {
+             result.exitCode ? Finish(*result.exitCode == 0) : GiveUp();
+           });
+}
+
+void DefaultPrinter::AskWhetherServerIsAlive() {
+  question_.Run(AskForJobs, {}, {}, patience_.answer, [this](const ShellCommand::Result& result) {
+    result.exitCode ? watch_.start() : GiveUp();
   });
-  patience_.setSingleShot(true);
-  patience_.setInterval(PatienceMilliseconds);
-  connect(&patience_, &QTimer::timeout, &command_, &QProcess::kill);
 }
 
-void DefaultPrinter::Print(const QString& title, const QByteArray& pdf) {
-  printing_ = true;
-  patience_.start();
-  // Through the shell, which is always there: the toolkit loses an open file with every command
-  // that cannot be started.
-  command_.start("/bin/sh", {"-c", "exec lp -t \"$1\"", "print", title});
-  command_.write(pdf);
-  command_.closeWriteChannel();
+// What has come through of the document must not be printed now that it is said to be lost.
+void DefaultPrinter::GiveUp() {
+  watch_.stop();
+  job_.Stop();
+  question_.Stop();
+  question_.Run(AskForJobs, {}, {}, patience_.answer, [this](const ShellCommand::Result& result) {
+    QStringList jobs = JobsIn(result.output);
+    jobs.removeIf([this](const QString& job) { return jobsBefore_.contains(job); });
+    jobs.isEmpty() ? Finish(false) : Withdraw(jobs);
+  });
 }
 
-void DefaultPrinter::Finish(bool accepted) {
-  patience_.stop();
-  printing_ = false;
-  emit Finished(accepted);
+void DefaultPrinter::Withdraw(const QStringList& jobs) {
+  question_.Run("exec cancel \"$@\"", jobs, {}, patience_.answer,
+                [this](const ShellCommand::Result&) { Finish(false); });
+}
+
+void DefaultPrinter::Finish(bool printed) {
+  watch_.stop();
+  question_.Stop();
+  makeDocument_ = nullptr;
+  emit Finished(printed);
+  stay_.reset();
 }

@@ -1,29 +1,54 @@
 #pragma once
 
+#include <functional>
+#include <optional>
+
+#include <QEventLoopLocker>
 #include <QObject>
-#include <QProcess>
+#include <QPageSize>
 #include <QTimer>
 
-// Sends documents to the default printer through the system's print command. That is a process of
-// its own: a print server that accepts a connection and never answers holds up nobody, and a queue
-// that refuses the document is noticed, which the toolkit's printing would not tell.
+#include "ui/windows/history/ShellCommand.h"
+
+// Sends documents to the default printer through the system's print commands. They are processes of
+// their own: a slow server holds up nobody, and a queue that refuses the document is noticed, which
+// Qt's own printing would not tell. The program does not end before the document is on its way.
 class DefaultPrinter : public QObject {
   Q_OBJECT
 
  public:
-  DefaultPrinter();
+  // Gives a PDF document for paper of this size.
+  using MakeDocument = std::function<QByteArray(const QPageSize& paper)>;
 
-  // One document at a time. Finished follows, after two seconds at the latest.
-  void Print(const QString& title, const QByteArray& pdf);
-  bool IsPrinting() const { return printing_; }
+  struct Patience {          // in milliseconds
+    int answer = 30000;      // within which a server that is alive answers
+    int untilAsked = 30000;  // whether it is alive
+    int document = 600000;   // for which it may keep us waiting, though it is alive
+  };
+
+  explicit DefaultPrinter(const Patience& patience);
+
+  // One document at a time. Finished follows, whatever happens.
+  void Print(const QString& title, MakeDocument makeDocument);
+  bool IsPrinting() const { return makeDocument_ != nullptr; }
 
  signals:
-  void Finished(bool accepted);
+  // Not printed: nothing of it is left with the server, as far as that can be told.
+  void Finished(bool printed);
 
  private:
-  void Finish(bool accepted);
+  void Send(const QByteArray& answers);
+  void AskWhetherServerIsAlive();
+  void GiveUp();
+  void Withdraw(const QStringList& jobs);
+  void Finish(bool printed);
 
-  QProcess command_;
-  QTimer patience_;
-  bool printing_ = false;
+  const Patience patience_;
+  QString title_;
+  MakeDocument makeDocument_;
+  QStringList jobsBefore_;  // that the player had there already
+  std::optional<QEventLoopLocker> stay_;
+  QTimer watch_;
+  ShellCommand question_;
+  ShellCommand job_;
 };

@@ -6,7 +6,6 @@
 
 #include <QBuffer>
 #include <QFontMetricsF>
-#include <QLocale>
 #include <QPainter>
 #include <QPdfWriter>
 
@@ -90,21 +89,16 @@ class PagePainter {
   double y_ = 0;
 };
 
-QPageSize PaperOfCountry() {
-  const bool metric = QLocale::system().measurementSystem() != QLocale::ImperialUSSystem;
-  return QPageSize(metric ? QPageSize::A4 : QPageSize::Letter);
-}
-
 }  // namespace
 
-QByteArray MoveListPage(const QStringList& lines, const QString& version) {
+QByteArray MoveListPage(const QStringList& lines, const QString& version, const QPageSize& paper) {
   QBuffer bytes;
   bytes.open(QIODevice::WriteOnly);
   {
     QPdfWriter document(&bytes);
     document.setTitle("Move List");
     document.setCreator("Gallopade Nova");
-    document.setPageSize(PaperOfCountry());
+    document.setPageSize(paper);
     document.setPageMargins({MarginPoints, MarginPoints, MarginPoints, MarginPoints},
                             QPageLayout::Point);
     PagePainter painter(document);

@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QItemSelection>
+#include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
@@ -18,33 +19,40 @@
 #include "storage/MoveListExport.h"
 #include "ui/commands/CommandHistory.h"
 #include "ui/commands/MoveHistory.h"
+#include "ui/widgets/NamedControls.h"
 #include "ui/widgets/WindowPlacing.h"
+#include "ui/windows/history/DefaultPrinter.h"
 #include "ui/windows/history/MoveListPage.h"
 
 namespace {
 
 constexpr const char* Tag = "tag";
+constexpr const char* Printing = "Printing...";
 constexpr int VisibleRows = 18;
 constexpr int ListWidthInRows = 14;
 
 }  // namespace
 
-frmHistory::frmHistory(const CommandContext& context, QWidget* mainWindow)
+frmHistory::frmHistory(const CommandContext& context, DefaultPrinter& printer, QWidget* mainWindow)
     : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
-      context_(context) {
+      context_(context),
+      printer_(printer) {
   setObjectName("frmHistory");
   lstMoves_ = new QListWidget(this);
   lstMoves_->setObjectName("lstMoves");
   connect(lstMoves_, &QListWidget::currentRowChanged, this, &frmHistory::lstMoves_Click);
-  connect(&printer_, &DefaultPrinter::Finished, this, &frmHistory::PrintingFinished);
   cmdOptionsOrUndo_ = AddButton("cmdOptionsOrUndo", &frmHistory::cmdOptionsOrUndo_Click);
   cmdClose_ = AddButton("cmdClose", &frmHistory::cmdClose_Click);
   AddOptions();
+  lblPrinting_ = AddLabel(this, "lblPrinting", QString());
+  connect(&printer_, &DefaultPrinter::Finished, this,
+          [this](bool printed) { ShowPrinting(printed ? "Sent to the printer." : QString()); });
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(cmdOptionsOrUndo_);
   buttons->addWidget(cmdClose_);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(lstMoves_);
+  layout->addWidget(lblPrinting_);
   layout->addLayout(buttons);
   const int row = fontMetrics().height();
   lstMoves_->setMinimumSize(
@@ -74,8 +82,8 @@ void frmHistory::AddOptions() {
           &frmHistory::mnuEditCopy_Click);
   connect(add("mnuEditExport", "&Save Moves to File..."), &QAction::triggered, this,
           &frmHistory::mnuEditExport_Click);
-  connect(add("mnuEditPrint", "&Print Moves on Default Printer"), &QAction::triggered, this,
-          &frmHistory::mnuEditPrint_Click);
+  mnuEditPrint_ = add("mnuEditPrint", "&Print Moves on Default Printer");
+  connect(mnuEditPrint_, &QAction::triggered, this, &frmHistory::mnuEditPrint_Click);
   add("mnuEditCancel", "&Cancel");
 }
 
@@ -85,12 +93,14 @@ void frmHistory::ListMoves() {
   cmdOptionsOrUndo_->setText("&Options");
   cmdClose_->setText("&Close");
   FillList(MoveListLines(context_.state), QString());
+  ShowPrinting(printer_.IsPrinting() ? Printing : QString());
 }
 
 void frmHistory::ListCommands() {
   setWindowTitle("Command History");
   lstMoves_->setAccessibleName("Commands");
   cmdClose_->setText("Cancel");
+  lblPrinting_->hide();
   // What is selected follows from the row that the player goes to, and from nothing else.
   lstMoves_->setSelectionMode(QListWidget::NoSelection);
   const CommandList commands = CommandsOf(context_.state);
@@ -163,19 +173,19 @@ void frmHistory::mnuEditExport_Click() {
 }
 
 void frmHistory::mnuEditPrint_Click() {
-  if (printer_.IsPrinting()) return;
-  cmdOptionsOrUndo_->setEnabled(false);
-  printer_.Print("Move List", MoveListPage(Lines(), ShortVersion()));
+  printer_.Print("Move List", [lines = Lines()](const QPageSize& paper) {
+    return MoveListPage(lines, ShortVersion(), paper);
+  });
+  ShowPrinting(Printing);
 }
 
-void frmHistory::PrintingFinished(bool accepted) {
-  cmdOptionsOrUndo_->setEnabled(true);
-  if (!accepted) ReportPrintingFailure(context_);
-  if (closing_) QDialog::done(Rejected);
+// One document at a time.
+void frmHistory::ShowPrinting(const QString& state) {
+  lblPrinting_->setText(state);
+  mnuEditPrint_->setEnabled(!printer_.IsPrinting());
 }
 
 void frmHistory::done(int result) {
   if (stepping_) return context_.pace.Hurry();
-  closing_ = printer_.IsPrinting();
-  if (!closing_) QDialog::done(result);
+  QDialog::done(result);
 }

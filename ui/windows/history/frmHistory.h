@@ -4,8 +4,10 @@
 #include <QStringList>
 
 #include "ui/commands/CommandContext.h"
-#include "ui/windows/history/DefaultPrinter.h"
 
+class DefaultPrinter;
+class QAction;
+class QLabel;
 class QListWidget;
 class QMenu;
 class QPushButton;
@@ -17,8 +19,8 @@ class frmHistory : public QDialog {
   Q_OBJECT
 
  public:
-  // The context outlives the window.
-  frmHistory(const CommandContext& context, QWidget* mainWindow);
+  // The context and the printer outlive the window: what is being printed goes on without it.
+  frmHistory(const CommandContext& context, DefaultPrinter& printer, QWidget* mainWindow);
 
   // Each makes the window ready for its use.
   void ListMoves();
@@ -31,7 +33,7 @@ class frmHistory : public QDialog {
   void mnuEditExport_Click();
   void mnuEditPrint_Click();
 
-  // Waits for the steps being made, or for a document that is on its way to the printer.
+  // Waits for the steps being made.
   void done(int result) override;
 
  private:
@@ -42,14 +44,15 @@ class frmHistory : public QDialog {
   bool ListsMoves() const;
   int StepsToCurrentRow() const;
   void GoToCurrentRow();
-  void PrintingFinished(bool accepted);
+  void ShowPrinting(const QString& state);
 
   const CommandContext& context_;
-  DefaultPrinter printer_;
+  DefaultPrinter& printer_;
   QListWidget* lstMoves_ = nullptr;
   QPushButton* cmdOptionsOrUndo_ = nullptr;
   QPushButton* cmdClose_ = nullptr;
   QMenu* mnuEdit_ = nullptr;
+  QAction* mnuEditPrint_ = nullptr;
+  QLabel* lblPrinting_ = nullptr;
   bool stepping_ = false;
-  bool closing_ = false;
 };
