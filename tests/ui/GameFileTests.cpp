@@ -134,6 +134,22 @@ TEST_F(GameFiles, TakeTheClockAndTheMarkFromTheFirstLine) {
   EXPECT_FALSE(state.NoScoreGame);
 }
 
+TEST_F(GameFiles, SetTheMenuOfAFreshGameForOneSquare) {
+  Begin();
+  Open(DataFile("beverley-first-40.knight"));
+  window.answers = {PlayerSays::Yes};
+  Open(Game("20", "3 3\r\n-1 -1\r\n"));
+  EXPECT_EQ(state.MoveCount, 1);
+  for (const MenuEntry entry :
+       {MenuEntry::mnuEditUndo, MenuEntry::mnuEditRedo, MenuEntry::mnuEditHistory,
+        MenuEntry::mnuViewHistory, MenuEntry::mnuFileRestart, MenuEntry::mnuViewReplay,
+        MenuEntry::mnuFileSave, MenuEntry::mnuFileSaveReplay}) {
+    EXPECT_FALSE(window.IsMenuEnabled(entry)) << static_cast<int>(entry);
+  }
+  EXPECT_TRUE(window.IsMenuEnabled(MenuEntry::mnuFileAutoplay));
+  EXPECT_TRUE(window.IsMenuEnabled(MenuEntry::mnuFileSolve));
+}
+
 TEST_F(GameFiles, ApplyJumpsThatNoKnightCanMake) {
   Begin();
   Open(Game("0", "0 0\r\n7 7\r\n-1 -1\r\n"));

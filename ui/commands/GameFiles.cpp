@@ -42,6 +42,7 @@ bool WantsReplay(const CommandContext& context, bool replaying, bool over) {
 
 // Who asked to close the window while the game was opened is shown no replay.
 void GoOnWithLoadedGame(const CommandContext& context, bool replaying) {
+  if (context.state.MoveCount == 1) SwitchMenus(context.window, MenuChange::FreshGame);
   const bool isClosing = context.window.Guard().IsCloseRequested();
   const bool over = context.game.CheckIfGameOver(context.state.KnightX, context.state.KnightY);
   if (over) {
