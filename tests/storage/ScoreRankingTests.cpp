@@ -87,6 +87,17 @@ TEST(InsertingAScore, MovesTheRowsBelowDownAndDropsTheLast) {
   EXPECT_TRUE(std::equal(rows.begin() + 3, rows.end(), before.begin() + 2));
 }
 
+TEST(InsertingAScore, PushesTheSecondToRankThree) {
+  ScoreRows rows;
+  for (const auto& [name, time] : {std::pair{"Ann", 100}, {"Bob", 200}, {"Cid", 100}}) {
+    const OfferedGame game{40, time, true};
+    InsertScore(rows, InsertionPlace(rows, game), RowOf(game, name));
+  }
+  EXPECT_EQ(rows[0].name, "Ann");
+  EXPECT_EQ(rows[1].name, "Cid");
+  EXPECT_EQ(rows[2].name, "Bob");
+}
+
 TEST(InsertingAScore, MayReplaceTheLast) {
   ScoreRows rows = Rows(std::vector<std::pair<int, int>>(10, {50, 100}));
   InsertScore(rows, 9, RowOf({40, 7}, "Ann"));

@@ -156,6 +156,14 @@ TEST_F(Board, StretchesOrCentresTheImagesItShowsAgain) {
   }
 }
 
+TEST_F(Board, SwitchesStretchingWithThePositioning) {
+  for (const int positioning : {1, 0}) {
+    look.ImagePositioning = positioning;
+    model.RestoreColors(state, look, -1, -1);
+    for (int i = 0; i < SquareCount; ++i) EXPECT_EQ(model.Cell(i).stretch, positioning == 0);
+  }
+}
+
 TEST_F(Board, GivesAndTakesBorders) {
   look.UseBorders = true;
   model.RestoreColors(state, look, -1, -1);

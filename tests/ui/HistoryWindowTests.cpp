@@ -145,6 +145,20 @@ TEST_F(CommandHistoryWindow, GoesBackToNoChange) {
   });
 }
 
+TEST_F(CommandHistoryWindow, HasOneRowWhenThereIsNothingToUndoOrRedo) {
+  OpenGame(2);
+  Choose("mnuEditUndo");
+  Window().Context().game.ClearRedo();
+  Read("mnuEditHistory", [](frmHistory& history, QListWidget& list) {
+    EXPECT_EQ(Rows(list), (QStringList{"No Change"}));
+    EXPECT_EQ(Selected(list), "0-0");
+    Click(list, 0);
+    EXPECT_EQ(Main(history).text(), "Undo/Redo");
+    EXPECT_FALSE(Main(history).isEnabled());
+  });
+  EXPECT_EQ(State().MoveCount, 1);
+}
+
 TEST_F(CommandHistoryWindow, SelectsByTheKeyboard) {
   OpenGameInTheMiddle();
   Read("mnuEditHistory", [](frmHistory& history, QListWidget& list) {
