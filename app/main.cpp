@@ -1,5 +1,6 @@
+#include <string>
+
 #include <QApplication>
-#include <QDir>
 #include <QIcon>
 
 #include "app/Globals.h"
@@ -15,16 +16,20 @@ QIcon ProgramIcon() {
   return icon;
 }
 
-// A name that the caller gave relative to the directory that the program was started in. The
-// arguments are joined as the player typed them, so a name with blanks needs no quotes.
-QString CommandLine(const QStringList& arguments) {
-  return arguments.mid(1).join(' ');
+// The arguments are joined as the player typed them, so a name with blanks needs no quotes. They are
+// bytes: a name need not be text to be the name of a file.
+std::string CommandLine(int argumentCount, char* arguments[]) {
+  std::string line;
+  for (int i = 1; i < argumentCount; ++i) line.append(i > 1 ? " " : "").append(arguments[i]);
+  return line;
 }
 
 }  // namespace
 
 int main(int argumentCount, char* arguments[]) {
-  QApplication application(argumentCount, arguments);
+  // All arguments are the game's: Qt is shown none, or it would take out those that it knows.
+  int programAlone = 1;
+  QApplication application(programAlone, arguments);
   QApplication::setApplicationName("GallopadeNova");
   QApplication::setApplicationVersion(PROGRAM_VERSION);
   QApplication::setDesktopFileName("GallopadeNova");
@@ -35,7 +40,7 @@ int main(int argumentCount, char* arguments[]) {
   Globals globals;
   globals.ProgramDirectory = QCoreApplication::applicationDirPath() + "/";
   frmGame window(globals);
-  window.Form_Load(CommandLine(QApplication::arguments()));
+  window.Form_Load(CommandLine(argumentCount, arguments));
   const int result = QApplication::exec();
   FinishSaving(globals);
   return result;

@@ -13,7 +13,7 @@ void PassOfTheFirework(benchmark::State& measured) {
   Globals globals;
   globals.ProgramDirectory = directory.path() + "/";
   frmGame window(globals);
-  window.Form_Load(QString());
+  window.Form_Load("");
   frmWin win(true, &window);
   win.show();
   for (auto _ : measured) {

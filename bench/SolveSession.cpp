@@ -75,7 +75,7 @@ SolveSession::SolveSession(const PaintClock& paintClock)
   for (const QString& picture : QDir(PICTURES_DIRECTORY).entryList(QDir::Files)) {
     QFile::copy(PICTURES_DIRECTORY + picture, directory_.filePath(picture));
   }
-  window_.Form_Load(QString());
+  window_.Form_Load("");
   globals_.settings.ShowSolveWarnings = false;
 }
 

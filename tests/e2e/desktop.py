@@ -103,7 +103,8 @@ class Desktop:
                               text=True).stdout
 
     def start_program(self, program, *arguments):
-        return self._start([str(program), *map(str, arguments)], cwd=self.folder)
+        """Arguments are paths, texts or the bytes of a name."""
+        return self._start([program, *arguments], cwd=self.folder)
 
     def window(self, title):
         """The number of the visible window whose title matches the regular expression."""

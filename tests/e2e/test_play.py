@@ -1,5 +1,6 @@
 """A player's evening in a real window: play, save, close, reopen, and find everything again."""
 
+import os
 import sys
 import tempfile
 import unittest
@@ -8,6 +9,7 @@ from pathlib import Path
 from desktop import Desktop, copy_of_program, wait_for
 
 PROGRAM_DIRECTORY = None
+GAME = Path(__file__).parent.parent / "data" / "beverley-first-40.knight"
 TITLE = "^Gallopade Nova"
 FRAME_PIXELS = 16
 MOVES = [(2, 1), (4, 0), (6, 1), (7, 3), (5, 2)]
@@ -97,6 +99,21 @@ class Play(unittest.TestCase):
         self.assertIn("Left=3000", lines)
         self.assertIn("Top=1500", lines)
         self.assertIn("Height=7500", lines)
+
+    def test_the_arguments_are_the_name_of_a_game_and_nothing_else(self):
+        for name in ("-style Fusion.knight", "-platform offscreen -geometry 1.knight"):
+            (Path(self.desktop.folder) / name).write_bytes(GAME.read_bytes())
+            self.start(*name.split())
+            self.caption_begins("Gallopade Nova: 40 ")
+            self.process.kill()
+            wait_for(self.ended, "the program to end")
+
+    def test_a_game_is_opened_by_the_bytes_of_its_name(self):
+        name = os.fsencode(self.folder) + b"/caf\xe9 \xf0\x9f.knight"
+        with open(name, "wb") as file:
+            file.write(GAME.read_bytes())
+        self.start(name)
+        self.caption_begins("Gallopade Nova: 40 ")
 
     def test_a_window_that_would_fill_the_memory_is_made_smaller(self):
         settings = self.program.parent / "GallopadeNova.ini"

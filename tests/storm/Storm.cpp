@@ -69,7 +69,7 @@ void Storm::RunProgram() {
   frmGame window(globals, VirtualTime::Look);
   journal_.Note("start the program");
   ActLater(window);
-  window.Form_Load(CommandLine());
+  window.Form_Load(CommandLine().toStdString());
   started_ = true;
   if (window.isVisible()) QApplication::exec();
   FailOn(folder_.Complaint());

@@ -24,7 +24,7 @@ void Desk::Open(const QString& settings, const QString& commandLine) {
     file.write(settings.toUtf8());
   }
   window_ = std::make_unique<frmGame>(globals, clock);
-  window_->Form_Load(commandLine);
+  window_->Form_Load(commandLine.toStdString());
   window_->activateWindow();  // a dialog at start-up had taken its place
   ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
 }

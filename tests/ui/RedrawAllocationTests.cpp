@@ -69,7 +69,7 @@ TEST(RedrawAllocation, NothingIsAllocatedWhenNothingHasChanged) {
   Globals globals;
   globals.ProgramDirectory = directory.path() + "/";
   frmGame window(globals);
-  window.Form_Load(QString());
+  window.Form_Load("");
   globals.settings.ShowSolveWarnings = false;
   int allocated = -1;
   QTimer::singleShot(0, &window, [&] {

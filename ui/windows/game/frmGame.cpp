@@ -49,10 +49,10 @@ frmGame::frmGame(Globals& globals, PicturePace::Clock clock)
 
 frmGame::~frmGame() = default;
 
-void frmGame::Form_Load(const QString& commandLine) {
+void frmGame::Form_Load(const std::string& commandLine) {
   game_.Form_Load([this] { SetUp(); });
   ShowWindow();
-  if (const auto fileName = GameFileOf(BytesOfPath(commandLine).toStdString())) {
+  if (const auto fileName = GameFileOf(commandLine)) {
     OpenGameFile(PathFromBytes(QByteArray::fromStdString(*fileName)));
   }
 }

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 
 #include <QElapsedTimer>
 #include <QMainWindow>
@@ -42,7 +43,8 @@ class frmGame : public QMainWindow, public MainWindow {
   ~frmGame() override;
 
   // Start-up; shows the window.
-  void Form_Load(const QString& commandLine);
+  // commandLine: the arguments, joined by one blank each.
+  void Form_Load(const std::string& commandLine);
 
   // False while work is going on that the player must not disturb, or something that he has chosen
   // is not over: a dialog that has just closed is yet to be acted on.
