@@ -7,12 +7,14 @@
 
 namespace {
 
-void WaitForNextPicture(const PicturePace& pace, const WatchedWork& walk) {
-  const PicturePace::Time next = pace.NextPicture();
+// A display that is still busy with the picture before shows this one only after a while.
+void WaitUntilSeen(PicturePace& pace, const WatchedWork& walk) {
   QTimer alarm;
   alarm.setTimerType(Qt::PreciseTimer);
   while (!walk.IsHurried()) {
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(next - pace.Now());
+    const PicturePace::Time now = pace.Now();
+    pace.ShowDue(now);
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(pace.NextPicture() - now);
     if (left.count() <= 0) return;
     alarm.start(left);
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
@@ -29,7 +31,7 @@ void DoEvents(PicturePace& pace) {
   if (work->IsWalk()) {
     const bool waits = work->EndStep(now);
     QCoreApplication::processEvents();
-    if (waits) WaitForNextPicture(pace, *work);
+    if (waits) WaitUntilSeen(pace, *work);
   } else if (work->IsTimeForEvents(now)) {
     QCoreApplication::processEvents();
   } else {
