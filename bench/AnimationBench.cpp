@@ -28,7 +28,7 @@ void OpeningOfTheFirework(benchmark::State& measured) {
   Globals globals;
   globals.ProgramDirectory = directory.path() + "/";
   frmGame window(globals);
-  window.Form_Load(QString());
+  window.Form_Load("");
   for (auto _ : measured) {
     const frmWin win(true, &window);
     benchmark::DoNotOptimize(&win);

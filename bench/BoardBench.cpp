@@ -48,7 +48,7 @@ void OpeningAGameOf64Moves(benchmark::State& measured) {
   Globals globals;
   globals.ProgramDirectory = directory.path() + "/";
   frmGame window(globals);
-  window.Form_Load(QString());
+  window.Form_Load("");
   QTimer closer;
   QObject::connect(&closer, &QTimer::timeout, [] {
     if (QWidget* question = QApplication::activeModalWidget()) question->close();

@@ -81,21 +81,21 @@ void MeasureRate(SolveSession& session, int rate) {
     runs.toReferenceByProcessor[run] = whole.processor / reference.processor;
     runs.toBareByProcessor[run] = whole.processor / bare.processor;
   }
-  std::printf("%5d  %8.2f million/s  %7.3f x recursion %6.3f x core   %7.3f x recursion %6.3f x core\n",
-              rate, Median(runs.speed), Median(runs.toReference), Median(runs.toBare),
-              Median(runs.toReferenceByProcessor), Median(runs.toBareByProcessor));
+  std::printf(
+      "%5d  %8.2f million/s  %7.3f x recursion %6.3f x core   %7.3f x recursion %6.3f x core\n",
+      rate, Median(runs.speed), Median(runs.toReference), Median(runs.toBare),
+      Median(runs.toReferenceByProcessor), Median(runs.toBareByProcessor));
   std::fflush(stdout);
 }
 
 void MeasurePainting(SolveSession& session) {
   const SearchReport report = session.Search(UsualRefresh, SearchMilliseconds);
   const double pictures = static_cast<double>(report.boardPaints);
-  std::printf("at rate %d: %.1f boards a second, %.1f squares each; painting takes %.1f %% of the "
-              "time, %.2f ms a picture\n",
-              UsualRefresh, pictures / report.seconds,
-              static_cast<double>(report.cellsPainted) / pictures,
-              100 * report.paintingSeconds / report.seconds,
-              1'000 * report.paintingSeconds / pictures);
+  std::printf(
+      "at rate %d: %.1f boards a second, %.1f squares each; painting takes %.1f %% of the "
+      "time, %.2f ms a picture\n",
+      UsualRefresh, pictures / report.seconds, static_cast<double>(report.cellsPainted) / pictures,
+      100 * report.paintingSeconds / report.seconds, 1'000 * report.paintingSeconds / pictures);
 }
 
 void MeasureStops(SolveSession& session, int rate) {

@@ -42,7 +42,7 @@ Stage::Stage(const QString& settings) {
   globals_.ProgramDirectory = directory_.path() + "/";
   Plant("GallopadeNova.ini", settings.toUtf8());
   window_ = std::make_unique<frmGame>(globals_, VirtualTime::Look);
-  window_->Form_Load({});
+  window_->Form_Load("");
   LookOut();
   window_->activateWindow();
   Settle(5);

@@ -12,8 +12,8 @@ namespace VirtualTime {
 
 std::int64_t Milliseconds();
 
-// The time for a loop that looks at it again and again without a turn of the event loop. A look costs
-// ten microseconds.
+// The time for a loop that looks at it again and again without a turn of the event loop. A look
+// costs ten microseconds.
 std::chrono::nanoseconds Look();
 
 // Never back.

@@ -3,6 +3,8 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <QTest>
+#include <QTimer>
+#include <QWindow>
 
 #include "tests/ui/HistoryDesk.h"
 
@@ -221,4 +223,101 @@ TEST_F(CommandHistoryWindow, ChangesNothingWhenItIsCancelled) {
     EXPECT_FALSE(history.isVisible());
   });
   EXPECT_EQ(State().MoveCount, 7);
+}
+
+namespace {
+
+// What comes while the command history takes nine moves back.
+class CommandHistoryAtWork : public CommandHistoryWindow {
+ protected:
+  void StepBackAnd(const std::function<void(frmHistory&, QListWidget&)>& happens) {
+    OpenGame(10);
+    WhenNextModalOpens([&](QWidget& modal) {
+      auto& history = dynamic_cast<frmHistory&>(modal);
+      auto& list = Child<QListWidget>(modal, "lstMoves");
+      QTimer yields;
+      QObject::connect(&yields, &QTimer::timeout, [&] {
+        if (State().MoveCount != 6) return;
+        yields.stop();
+        EXPECT_TRUE(history.isVisible());
+        happens(history, list);
+        EXPECT_TRUE(history.isVisible());
+      });
+      yields.start(0);
+      Click(list, 0);
+      Main(history).click();
+      EXPECT_FALSE(history.isVisible());
+    });
+    Choose("mnuEditHistory");
+    EXPECT_TRUE(AllVisitsMade());
+    EXPECT_EQ(State().MoveCount, 1);
+    EXPECT_TRUE(Window().PlayerMayAct());
+  }
+};
+
+}  // namespace
+
+TEST_F(CommandHistoryAtWork, IsOpenUntilTheStepsAreMade) {
+  StepBackAnd([](frmHistory&, QListWidget&) {});
+}
+
+TEST_F(CommandHistoryAtWork, ClosesOnlyThenWhenItIsToldTo) {
+  StepBackAnd([](frmHistory& history, QListWidget&) {
+    QTest::keyClick(&history, Qt::Key_Escape);
+    history.windowHandle()->close();
+    Child<QAbstractButton>(history, "cmdClose").click();
+  });
+}
+
+TEST_F(CommandHistoryAtWork, TakesNoOtherOrder) {
+  StepBackAnd([](frmHistory& history, QListWidget& list) {
+    Main(history).click();
+    Click(list, 9);
+    EXPECT_EQ(Selected(list), "0-8");
+    EXPECT_EQ(Main(history).text(), "Un&do");
+    Main(history).click();
+  });
+}
+
+TEST_F(CommandHistoryAtWork, KeepsTheMainWindowFromClosing) {
+  StepBackAnd([this](frmHistory&, QListWidget&) {
+    Window().windowHandle()->close();
+    EXPECT_TRUE(Window().isVisible());
+  });
+}
+
+namespace {
+
+class CommandHistoryAtTheEnd : public CommandHistoryWindow {
+ protected:
+  // Redoes the two moves with which a game has ended, and presses this in the window that says so.
+  void RedoToTheEndAndPress(const char* button) {
+    Open();
+    WhenNextModalOpens([](QWidget& over) { Child<QAbstractButton>(over, "cmdUndo").click(); });
+    PlaySquares(Context().game, Games::DeadEndAfter20);
+    Choose("mnuEditUndo");
+    WhenNextModalOpens([this, button](QWidget& modal) {
+      auto& history = dynamic_cast<frmHistory&>(modal);
+      WhenNextModalOpens([&history, button](QWidget& over) {
+        EXPECT_TRUE(history.isVisible());
+        EXPECT_EQ(over.objectName(), "frmGameOver");
+        Child<QAbstractButton>(over, button).click();
+      });
+      auto& list = Child<QListWidget>(modal, "lstMoves");
+      Click(list, list.count() - 1);
+      Main(history).click();
+      EXPECT_FALSE(history.isVisible());
+    });
+    Choose("mnuEditHistory");
+    EXPECT_TRUE(AllVisitsMade());
+    EXPECT_TRUE(Window().PlayerMayAct());
+  }
+  const CommandContext& Context() { return Window().Context(); }
+};
+
+}  // namespace
+
+TEST_F(CommandHistoryAtTheEnd, ClosesWhenTheLastMoveIsTakenBack) {
+  RedoToTheEndAndPress("cmdUndo");
+  EXPECT_EQ(State().MoveCount, 19);
 }

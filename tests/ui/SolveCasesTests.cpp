@@ -51,8 +51,7 @@ TEST_P(SolveCases, AreAnsweredExactly) {
       box.close();
     });
     Search(solve, [](int) {});
-    EXPECT_EQ(TextOf(solve, "lblTestedValue").toLongLong(),
-              known["entries"].toInteger() - 1);
+    EXPECT_EQ(TextOf(solve, "lblTestedValue").toLongLong(), known["entries"].toInteger() - 1);
   });
   EXPECT_EQ(MovesMade(State()), solved ? Squares(known["tour"]) : moves);
 }

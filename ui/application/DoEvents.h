@@ -2,6 +2,6 @@
 
 class PicturePace;
 
-// Lets pending events run: the one place where the program yields inside a handler. While the player
-// watches the knight walk, it returns when he has seen the step.
+// Lets pending events run: the one place where the program yields inside a handler. While the
+// player watches the knight walk, it returns when he has seen the step.
 void DoEvents(PicturePace& pace);

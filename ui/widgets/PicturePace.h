@@ -13,8 +13,8 @@ class WatchedWork;
 // Has what changes quickly painted no oftener than a display can show it, and never later than one
 // refresh after it has changed.
 //
-// Pictures are held back only while there is WatchedWork; at any other time a change is painted with
-// the next events.
+// Pictures are held back only while there is WatchedWork; at any other time a change is painted
+// with the next events.
 class PicturePace {
  public:
   using Time = std::chrono::nanoseconds;
@@ -84,7 +84,7 @@ class PacedPicture {
 // several steps share a picture, and where the style animates nothing, there is no wait.
 class WatchedWork {
  public:
-  explicit WatchedWork(PicturePace& pace);          // a search
+  explicit WatchedWork(PicturePace& pace);        // a search
   WatchedWork(PicturePace& pace, int mostSteps);  // a walk
   // Completes the picture.
   ~WatchedWork();
