@@ -53,6 +53,16 @@ TEST(DialogFitting, KeepsADialogInsideItsRoomWithTheButtonsInSight) {
   EXPECT_FALSE(IsInSight(large.last, large.dialog));
 }
 
+TEST(DialogFitting, KeepsTheRowInSightThatHasTheButtons) {
+  LargeDialog large;
+  QPushButton below("below");
+  large.dialog.layout()->addWidget(&below);
+  KeepInSight(large.button);
+  FitDialog(large.dialog, Room);
+  large.dialog.show();
+  EXPECT_TRUE(IsInSight(large.button, large.dialog));
+}
+
 TEST(DialogFitting, ShowsWhatTheKeyboardComesTo) {
   LargeDialog large;
   FitDialog(large.dialog, Room);
@@ -66,6 +76,7 @@ TEST(DialogFitting, NeedsNoBarAtTheSideForOneBelow) {
   LargeDialog large;
   FitDialog(large.dialog, {400, 2000});
   large.dialog.show();
+  QCoreApplication::processEvents();
   EXPECT_LE(large.dialog.width(), 400);
   EXPECT_FALSE(large.dialog.findChild<QScrollArea*>()->verticalScrollBar()->isVisible());
 }

@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr const char* StaysInSight = "staysInSight";
+
 // As large as what it shows, and not larger than its room. The keyboard goes through what it shows
 // and takes the view along.
 class ScrollingRows : public QScrollArea {
@@ -52,6 +54,15 @@ class ScrollingRows : public QScrollArea {
   QSize room_;
 };
 
+void MoveButtonsToTheEnd(QBoxLayout& column) {
+  for (int row = 0; row < column.count(); ++row) {
+    const QWidget* widget = column.itemAt(row)->widget();
+    if (widget == nullptr || !widget->property(StaysInSight).toBool()) continue;
+    column.addItem(column.takeAt(row));
+    return;
+  }
+}
+
 void MoveRow(QBoxLayout& from, QBoxLayout& to) {
   const int stretch = from.stretch(0);
   QLayoutItem* row = from.takeAt(0);
@@ -68,11 +79,16 @@ void MoveRow(QBoxLayout& from, QBoxLayout& to) {
 
 }  // namespace
 
+void KeepInSight(QWidget& row) {
+  row.setProperty(StaysInSight, true);
+}
+
 void FitDialog(QDialog& dialog, const QSize& room) {
   auto* column = qobject_cast<QBoxLayout*>(dialog.layout());
   if (column == nullptr) return;
-  const QSize needed = column->totalMinimumSize();
+  const QSize needed = column->totalSizeHint();
   if (needed.boundedTo(room) == needed) return;
+  MoveButtonsToTheEnd(*column);
 
   auto* rows = new QWidget;
   auto* inner = new QVBoxLayout(rows);
@@ -82,6 +98,6 @@ void FitDialog(QDialog& dialog, const QSize& room) {
   auto* area = new ScrollingRows(*rows, &dialog);
   column->insertWidget(0, area);
   const QSize around(column->contentsMargins().left() + column->contentsMargins().right(),
-                     needed.height() - inner->totalMinimumSize().height());
+                     needed.height() - inner->totalSizeHint().height());
   area->SetRoom(room - around);
 }

@@ -115,7 +115,7 @@ void PlaceBesideWindow(QWidget& window, const QWidget& other, int leastWidth) {
   const int roomRight = screen.right() - taken.right();
   const int room = std::max(roomLeft, roomRight) - GapBetweenWindows - frame.width();
   if (room >= leastWidth) window.resize(std::min(window.width(), room), window.height());
-  const QSize size = window.size() + frame;
+  const QSize size = window.size().expandedTo(window.minimumSizeHint()) + frame;
   const int beside = roomRight >= roomLeft ? taken.right() + 1 + GapBetweenWindows
                                            : taken.left() - GapBetweenWindows - size.width();
   window.move(BroughtInside({{beside, taken.top()}, size}, screen));

@@ -14,6 +14,7 @@
 #include <QTimer>
 
 #include "storage/NumberParser.h"
+#include "ui/widgets/DialogFitting.h"
 #include "ui/widgets/NamedControls.h"
 #include "ui/widgets/ScrollBar.h"
 #include "ui/widgets/ValueLabel.h"
@@ -49,7 +50,9 @@ frmReplay::frmReplay(const CommandContext& context, QWidget* mainWindow)
   auto* layout = new QVBoxLayout(this);
   layout->setSizeConstraint(QLayout::SetFixedSize);
   layout->addWidget(AddKnightFrame());
-  layout->addWidget(AddControlsFrame());
+  QGroupBox* controls = AddControlsFrame();
+  KeepInSight(*controls);
+  layout->addWidget(controls);
   layout->addWidget(AddAdvanceFrame());
   cmdAdvancePause_->setFocus();
 }

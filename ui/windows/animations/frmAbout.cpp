@@ -61,6 +61,16 @@ QFont Arial(int points) {
   return font;
 }
 
+// Lines break between words only.
+QFont ArialFor(const QString& text, int points, int width) {
+  QFont font = Arial(points);
+  for (const QString& word : text.split(' ')) {
+    const int needed = QFontMetrics(font).horizontalAdvance(word);
+    if (needed > width) font.setPointSizeF(font.pointSizeF() * width / needed);
+  }
+  return font;
+}
+
 // Of a colour part that is 256 only 255 fits.
 int ColorPart(int step) {
   return std::min(step * 128, 255);
@@ -129,9 +139,10 @@ QLabel* frmAbout::AddLabel(const char* name, const QString& text, int points) {
   auto* label = new QLabel(text, this);
   label->setObjectName(name);
   label->setTextFormat(Qt::PlainText);
-  label->setFont(Arial(points));
+  const int width = TextWidthOn(screen()->availableSize().width());
+  label->setFont(ArialFor(text, points, width));
   label->setWordWrap(true);
-  label->setFixedWidth(TextWidthOn(screen()->availableSize().width()));
+  label->setFixedWidth(width);
   return label;
 }
 

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int Maximised = 2;  // the stored window state
 // Room for a title bar and borders, whose size is not known before the window is shown.
-constexpr int DecorationAllowance = 48;
+constexpr QSize DecorationAllowance(8, 48);
 
 constexpr qint64 OpeningMilliseconds = 1000;
 
@@ -45,7 +45,8 @@ QSize SizeOfHeight(int height, int menuHeight, const QSize& screen) {
   if (height - menuHeight < MinimumHeight()) height = MinimumHeight();
   int side = std::max(height - menuHeight, 1);
   if (side > screen.width() || height > screen.height()) {
-    side = std::min(screen.width(), screen.height() - menuHeight - DecorationAllowance);
+    const QSize room = screen - DecorationAllowance;
+    side = std::min(room.width(), room.height() - menuHeight);
   }
   side = std::max(side, MinimumHeight() - menuHeight);
   return {side, side + menuHeight};
@@ -79,7 +80,7 @@ void frmGame::ApplyPlacement(const WindowPlacement& placement) {
   const int menuHeight = menuBar()->sizeHint().height();
   const int designedHeight =
       std::min(static_cast<int>(PixelsFromTwips(DesignedInnerSideTwips)) + menuHeight,
-               available.height() - DecorationAllowance);
+               available.height() - DecorationAllowance.height());
   const int height = PixelFrom(placement.Height, designedHeight);
   const auto boundsOf = [&](const QSize& size) {
     const QPoint centred = CentredPosition(size, available, available);
@@ -88,7 +89,7 @@ void frmGame::ApplyPlacement(const WindowPlacement& placement) {
   };
   const QRect room = ScreenOf(boundsOf({height, height}));
   const QRect wanted = boundsOf(SizeOfHeight(height, menuHeight, room.size()));
-  const QRect withFrame = wanted.adjusted(0, 0, 0, DecorationAllowance);
+  const QRect withFrame(wanted.topLeft(), wanted.size() + DecorationAllowance);
   placedBounds_ = wanted.height() < height ? QRect(BroughtInside(withFrame, room), wanted.size())
                                            : BroughtWithinReach(wanted);
   move(placedBounds_.topLeft());
