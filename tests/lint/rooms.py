@@ -23,7 +23,7 @@ MAY_INCLUDE = {
 WINDOWLESS = {"core", "solver"}
 # Qt's headers for files and text; anything else of it in these places is a window's.
 FILES_AND_TEXT = {
-    "storage": {"QByteArray", "QByteArrayView", "QList", "QString", "QStringDecoder",
+    "storage": {"QByteArray", "QByteArrayView", "QFile", "QList", "QString", "QStringDecoder",
                 "QStringList", "QStringView"},
     "app": {"QCoreApplication", "QString", "QVersionNumber"},
 }

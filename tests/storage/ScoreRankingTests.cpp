@@ -90,8 +90,8 @@ TEST(InsertingAScore, MovesTheRowsBelowDownAndDropsTheLast) {
 TEST(InsertingAScore, PushesTheSecondToRankThree) {
   ScoreRows rows;
   for (const auto& [name, time] : {std::pair{"Ann", 100}, {"Bob", 200}, {"Cid", 100}}) {
-    const OfferedGame game{40, time, true};
-    InsertScore(rows, InsertionPlace(rows, game), RowOf(game, name));
+    const FinishedGame game{40, time};
+    InsertScore(rows, InsertionPlace(ScoreList::High, rows, game), RowOf(game, name));
   }
   EXPECT_EQ(rows[0].name, "Ann");
   EXPECT_EQ(rows[1].name, "Cid");

@@ -97,7 +97,7 @@ TEST_F(ChessboardFiles, AreNamedByTheSettingsOnlyAfterTheirPicturesHaveBeenRead)
   bool isStored = true;
   QString imageToRead;
   window.onLoadPictures = [&] {
-    isStored = QFile::exists(globals.IniFilePathName);
+    isStored = QFile::exists(FilePath("GallopadeNova.ini"));
     imageToRead = settings.KnightImage;
   };
   Open(FileWith("a.chessboard", CompleteLook));
