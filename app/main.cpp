@@ -16,8 +16,8 @@ QIcon ProgramIcon() {
   return icon;
 }
 
-// The arguments are joined as the player typed them, so a name with blanks needs no quotes. They are
-// bytes: a name need not be text to be the name of a file.
+// The arguments are joined as the player typed them, so a name with blanks needs no quotes. They
+// are bytes: a name need not be text to be the name of a file.
 std::string CommandLine(int argumentCount, char* arguments[]) {
   std::string line;
   for (int i = 1; i < argumentCount; ++i) line.append(i > 1 ? " " : "").append(arguments[i]);

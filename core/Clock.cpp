@@ -42,7 +42,7 @@ void Game::ClockOnResize(bool minimised, bool resting) {
     window_.EnableClock(false);
     return;
   }
-  const int movesBeforePlay = state_.GameStartingPosition == 1 ? 0 : 1;
+  const int movesBeforePlay = state_.GameStartingPosition == FirstSquare::PlayersChoice ? 0 : 1;
   const bool playing =
       state_.MoveCount != movesBeforePlay && !CheckIfGameOver(state_.KnightX, state_.KnightY);
   if (playing && !resting) window_.EnableClock(true);

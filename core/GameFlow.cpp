@@ -3,7 +3,8 @@
 
 bool Game::GameInProgress() const {
   if (CheckIfGameOver(state_.KnightX, state_.KnightY)) return false;
-  return state_.MoveCount > 1 || (state_.GameStartingPosition == 1 && state_.MoveCount != 0);
+  return state_.MoveCount > 1 ||
+         (state_.GameStartingPosition == FirstSquare::PlayersChoice && state_.MoveCount != 0);
 }
 
 void Game::Form_Load(const std::function<void()>& setUp) {
@@ -82,7 +83,7 @@ void Game::ClearBoard() {
 void Game::OpenSavedGame(const SavedGame& saved) {
   ++state_.GameSerial;
   ClearBoard();
-  state_.GameStartingPosition = 0;
+  state_.GameStartingPosition = FirstSquare::Stored;
   state_.FirstMoveMade = true;
 
   const WorkScope work(window_.Guard());
@@ -101,7 +102,7 @@ void Game::OpenSavedGame(const SavedGame& saved) {
 }
 
 void Game::PlaceCursorOfFreshGame() {
-  const bool playerPicksFirstSquare = state_.GameStartingPosition == 1;
+  const bool playerPicksFirstSquare = state_.GameStartingPosition == FirstSquare::PlayersChoice;
   state_.CursorX = playerPicksFirstSquare ? std::int16_t{-1} : state_.KnightX;
   state_.CursorY = playerPicksFirstSquare ? std::int16_t{-1} : state_.KnightY;
 }

@@ -14,12 +14,14 @@ struct MoveRow {
 
 inline constexpr MoveRow EmptyMove{-1, -1};
 
+// How a game begins. The numbers are those of the settings file; any other counts as random.
+enum class FirstSquare : std::int16_t { Stored = 0, PlayersChoice = 1, Random = 2 };
+
 // What the player chooses once for all games; the settings own it, the game reads it.
 struct GameOptions {
   bool ShowScore = true;
   bool ShowTime = true;
-  // 0 = the square (StartingX, StartingY), 1 = the player picks it, other = a random one.
-  std::int16_t StartingPosition = 0;
+  FirstSquare StartingPosition = FirstSquare::Stored;
   std::int16_t StartingX = 0;
   std::int16_t StartingY = 0;
 };
@@ -42,8 +44,8 @@ struct GameState {
   bool FirstMoveMade = false;
   // The program itself is making moves: the clock does not start and the game does not end.
   bool ApplyingMoves = false;
-  // StartingPosition when this game began; 0 for a game that came from a file.
-  std::int16_t GameStartingPosition = 0;
+  // StartingPosition when this game began; a game from a file counts as begun on a stored square.
+  FirstSquare GameStartingPosition = FirstSquare::Stored;
   std::int32_t ElapsedHalfSeconds = 0;
 
   std::int16_t MoveCount = 0;

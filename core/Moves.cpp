@@ -55,10 +55,10 @@ void Game::AnnounceEnd() {
 }
 
 void Game::SetupFirstMove() {
-  if (options_.StartingPosition == 1) {
+  if (options_.StartingPosition == FirstSquare::PlayersChoice) {
     state_.FirstMoveMade = false;
     state_.KnightX = state_.KnightY = 0;
-  } else if (options_.StartingPosition == 0) {
+  } else if (options_.StartingPosition == FirstSquare::Stored) {
     ValidMove(StartingCoordinate(options_.StartingX), StartingCoordinate(options_.StartingY));
     state_.FirstMoveMade = true;
   } else {

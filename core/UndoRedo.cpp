@@ -27,7 +27,7 @@ void Game::mnuEditRedo_Click() {
 void Game::mnuEditUndo_Click() {
   state_.CursorX = state_.CursorY = -1;
   if (state_.MoveCount == 0) return;
-  const bool playerPickedFirstSquare = state_.GameStartingPosition == 1;
+  const bool playerPickedFirstSquare = state_.GameStartingPosition == FirstSquare::PlayersChoice;
 
   if (state_.MoveCount == 1) {
     if (!playerPickedFirstSquare) return;

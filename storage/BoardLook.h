@@ -9,6 +9,11 @@ constexpr Color SystemColor(int index) {
   return static_cast<Color>(0x80000000U + static_cast<std::uint32_t>(index));
 }
 
+// How a picture lies in its square, and which squares are highlighted; the numbers are those of the
+// settings file. Any other number is kept and means neither of the two, and no highlighting.
+enum class Positioning : int { Stretched = 0, Centred = 1 };
+enum class Highlighting : int { None = 0, CursorPosition = 1, ValidMovesOnly = 2 };
+
 // The part of the settings that decides what a square looks like.
 struct BoardLook {
   Color LightColor = SystemColor(0x16);
@@ -18,8 +23,6 @@ struct BoardLook {
   Color HighlightColor = SystemColor(0x18);
   bool UseImages = true;
   bool UseBorders = false;
-  // 0 = stretched to the square, 1 = centred in it.
-  int ImagePositioning = 0;
-  // 0 = none, 1 = the square under the cursor, 2 = valid moves only.
-  int HighlightingMethod = 2;
+  Positioning ImagePositioning = Positioning::Stretched;
+  Highlighting HighlightingMethod = Highlighting::ValidMovesOnly;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <type_traits>
 
 #include "storage/NumberParser.h"
 
@@ -88,6 +89,12 @@ struct FieldReader {
     const std::int32_t number = LenientInt32(text);
     if (IsInRange(number)) settings.*field = number;
   }
+  template <typename Choice>
+  void operator()(Choice Settings::*field) const {
+    using Number = std::underlying_type_t<Choice>;
+    settings.*field = static_cast<Choice>(static_cast<Number>(
+        sizeof(Number) == sizeof(std::int16_t) ? LenientInt16(text) : LenientInt32(text)));
+  }
   bool IsInRange(int number) const {
     return number >= row.range.lowest && number <= row.range.highest;
   }
@@ -102,6 +109,10 @@ struct FieldWriter {
     return QString::number(settings.*field);
   }
   QString operator()(int Settings::*field) const { return QString::number(settings.*field); }
+  template <typename Choice>
+  QString operator()(Choice Settings::*field) const {
+    return QString::number(static_cast<int>(settings.*field));
+  }
 };
 
 void SetDefault(const SettingRow& row, const QString& programDirectory, Settings& settings) {

@@ -18,7 +18,8 @@ enum class SettingKind {
 };
 
 using SettingField =
-    std::variant<QString Settings::*, bool Settings::*, std::int16_t Settings::*, int Settings::*>;
+    std::variant<QString Settings::*, bool Settings::*, std::int16_t Settings::*, int Settings::*,
+                 FirstSquare Settings::*, Positioning Settings::*, Highlighting Settings::*>;
 
 // Accepted numbers; any other becomes the default.
 struct NumberRange {

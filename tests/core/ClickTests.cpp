@@ -67,7 +67,7 @@ TEST_F(Click, OnTheKnightDoesNothing) {
 }
 
 TEST_F(Click, BesideTheBoardDoesNothing) {
-  for (const std::int16_t position : {StartOnStoredSquare, StartOnPlayersChoice}) {
+  for (const FirstSquare position : {StartOnStoredSquare, StartOnPlayersChoice}) {
     Begin(position);
     for (const int index :
          {-1, -9, 64, 72, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {

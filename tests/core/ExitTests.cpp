@@ -52,7 +52,7 @@ TEST_F(Exit, LeavesAStoppedClockStoppedWhenThePlayerStays) {
 }
 
 TEST_F(GameInProgress, BeginsWithTheSecondSquareAfterAnAutomaticFirstOne) {
-  for (const std::int16_t position : {StartOnStoredSquare, StartOnRandomSquare}) {
+  for (const FirstSquare position : {StartOnStoredSquare, StartOnRandomSquare}) {
     Begin(position);
     EXPECT_FALSE(game.GameInProgress());
   }

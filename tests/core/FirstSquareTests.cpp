@@ -3,9 +3,9 @@
 
 #include "tests/support/GameTest.h"
 
-using FirstSquare = GameTest;
+using TheFirstSquare = GameTest;
 
-TEST_F(FirstSquare, IsTheStoredSquare) {
+TEST_F(TheFirstSquare, IsTheStoredSquare) {
   options.StartingX = 3;
   options.StartingY = 5;
   Begin();
@@ -15,7 +15,7 @@ TEST_F(FirstSquare, IsTheStoredSquare) {
   EXPECT_EQ(MovesMade(state), SquaresNamed("D3"));
 }
 
-TEST_F(FirstSquare, CountsAStoredCoordinateBesideTheBoardAsZero) {
+TEST_F(TheFirstSquare, CountsAStoredCoordinateBesideTheBoardAsZero) {
   options.StartingX = 8;
   options.StartingY = 5;
   Begin();
@@ -30,13 +30,13 @@ TEST_F(FirstSquare, CountsAStoredCoordinateBesideTheBoardAsZero) {
   EXPECT_EQ(Knight(), "A8");
 }
 
-TEST_F(FirstSquare, IsLeftToThePlayer) {
+TEST_F(TheFirstSquare, IsLeftToThePlayer) {
   Begin(StartOnPlayersChoice);
   EXPECT_EQ(state.MoveCount, 0);
   EXPECT_EQ(Cursor(), "none");
 }
 
-TEST_F(FirstSquare, LeavesTheKnightInTheCornerUntilThePlayerHasPickedIt) {
+TEST_F(TheFirstSquare, LeavesTheKnightInTheCornerUntilThePlayerHasPickedIt) {
   Begin();
   PlayTour(game, 5);
   options.StartingPosition = StartOnPlayersChoice;
@@ -45,7 +45,7 @@ TEST_F(FirstSquare, LeavesTheKnightInTheCornerUntilThePlayerHasPickedIt) {
   EXPECT_FALSE(IsTaken("A8"));
 }
 
-TEST_F(FirstSquare, MayBeAnySquareWhenItIsRandom) {
+TEST_F(TheFirstSquare, MayBeAnySquareWhenItIsRandom) {
   Begin(StartOnRandomSquare);
   std::set<std::string> seen;
   for (int games = 0; games < 20000 && seen.size() < 64; ++games) {
@@ -57,22 +57,22 @@ TEST_F(FirstSquare, MayBeAnySquareWhenItIsRandom) {
   EXPECT_EQ(seen.size(), 64U);
 }
 
-TEST_F(FirstSquare, IsRandomForAnySettingThatMeansNothingElse) {
+TEST_F(TheFirstSquare, IsRandomForAnySettingThatMeansNothingElse) {
   for (const std::int16_t position : {std::int16_t{3}, std::int16_t{-1}, std::int16_t{32767}}) {
-    Begin(position);
+    Begin(static_cast<FirstSquare>(position));
     EXPECT_EQ(state.MoveCount, 1) << position;
     EXPECT_TRUE(state.FirstMoveMade) << position;
   }
 }
 
-TEST_F(FirstSquare, PlacedAutomaticallyEnablesUndoUntilTheNewGameIsReady) {
+TEST_F(TheFirstSquare, PlacedAutomaticallyEnablesUndoUntilTheNewGameIsReady) {
   Begin();
   window.onRestoreColors = [this] { EXPECT_TRUE(IsOn(MenuEntry::mnuEditUndo)); };
   game.mnuFileNew_Click();
   EXPECT_FALSE(IsOn(MenuEntry::mnuEditUndo));
 }
 
-TEST_F(FirstSquare, RefreshesTheHighlightWhenItIsPlaced) {
+TEST_F(TheFirstSquare, RefreshesTheHighlightWhenItIsPlaced) {
   options.StartingX = 1;
   Begin();
   game.SetupFirstMove();

@@ -81,7 +81,7 @@ TEST_F(GameStateTest, HasAnEmptyBoardBeforeThePlayerPicksTheFirstSquare) {
 }
 
 TEST_F(GameStateTest, HasMadeTheFirstMoveWhenTheProgramPlacesIt) {
-  for (const std::int16_t position : {StartOnStoredSquare, StartOnRandomSquare}) {
+  for (const FirstSquare position : {StartOnStoredSquare, StartOnRandomSquare}) {
     Begin(position);
     EXPECT_EQ(state.MoveCount, 1);
     EXPECT_TRUE(state.FirstMoveMade);

@@ -182,7 +182,7 @@ TEST_F(Keyboard, PicksTheFirstSquare) {
 }
 
 TEST_F(Keyboard, ClicksNowhereWithoutACursor) {
-  for (const std::int16_t position : {StartOnStoredSquare, StartOnPlayersChoice}) {
+  for (const FirstSquare position : {StartOnStoredSquare, StartOnPlayersChoice}) {
     Begin(position);
     TakeBack();
     for (const int key : {13, 32, 12, 101}) EXPECT_TRUE(DoesNothing(key)) << key;

@@ -41,7 +41,7 @@ class Menus : public GameTest {
 }  // namespace
 
 TEST_F(Menus, OfAFreshGameOfferItsAutomaticEndingOnly) {
-  for (const std::int16_t position :
+  for (const FirstSquare position :
        {StartOnStoredSquare, StartOnPlayersChoice, StartOnRandomSquare}) {
     Begin(position);
     EXPECT_EQ(On(), Fresh);
@@ -56,7 +56,7 @@ TEST_F(Menus, AreFreshInANewGame) {
 }
 
 TEST_F(Menus, AreFreshAfterRestart) {
-  for (const std::int16_t position : {StartOnStoredSquare, StartOnPlayersChoice}) {
+  for (const FirstSquare position : {StartOnStoredSquare, StartOnPlayersChoice}) {
     Begin(position);
     PlayTour(game, 5);
     window.answers = {PlayerSays::Yes};
@@ -72,7 +72,7 @@ TEST_F(Menus, OfferNeitherRestartNorReplayOnThePlayersFirstSquare) {
 }
 
 TEST_F(Menus, OfferRestartAndReplayFromTheSecondSquare) {
-  for (const std::int16_t position : {StartOnStoredSquare, StartOnPlayersChoice}) {
+  for (const FirstSquare position : {StartOnStoredSquare, StartOnPlayersChoice}) {
     Begin(position);
     PlayTour(game, 2);
     EXPECT_EQ(On(), Playing);

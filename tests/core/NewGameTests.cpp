@@ -47,7 +47,7 @@ TEST_F(NewGame, TakesItsStepsInOrder) {
 }
 
 TEST_F(NewGame, AsksNothingRightAfterStartUp) {
-  for (const std::int16_t position :
+  for (const FirstSquare position :
        {StartOnStoredSquare, StartOnPlayersChoice, StartOnRandomSquare}) {
     Begin(position);
     ChooseNew();

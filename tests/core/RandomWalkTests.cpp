@@ -7,7 +7,7 @@
 namespace {
 
 // A player without any plan: whatever is done, in whatever order, the game stays a game.
-class RandomWalk : public GameTest, public testing::WithParamInterface<std::int16_t> {
+class RandomWalk : public GameTest, public testing::WithParamInterface<FirstSquare> {
  protected:
   static constexpr int Operations = 100'000;
 

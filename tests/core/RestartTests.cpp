@@ -67,7 +67,7 @@ TEST_F(Restart, TakesItsStepsInOrder) {
 }
 
 TEST_F(Restart, LeavesTheFirstSquareTaken) {
-  for (const std::int16_t position : {StartOnStoredSquare, StartOnPlayersChoice}) {
+  for (const FirstSquare position : {StartOnStoredSquare, StartOnPlayersChoice}) {
     Begin(position);
     PlayTour(game, 10);
     ChooseRestart(PlayerSays::Yes);

@@ -51,7 +51,7 @@ TEST_F(StartUp, ReadsTheSettingsBeforeItTakesTheFirstSquare) {
 }
 
 TEST_F(StartUp, RemembersHowTheGameBegan) {
-  for (const std::int16_t position :
+  for (const FirstSquare position :
        {StartOnStoredSquare, StartOnPlayersChoice, StartOnRandomSquare}) {
     Begin(position);
     EXPECT_EQ(state.GameStartingPosition, position);

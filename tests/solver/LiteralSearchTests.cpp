@@ -41,7 +41,7 @@ class LiteralSearchTest : public testing::Test {
   // At 0 every entry is shown.
   std::vector<std::int16_t> LowRate() { return {static_cast<std::int16_t>(random_() % 3)}; }
 
-  std::int16_t RandomStart() {
+  FirstSquare RandomStart() {
     return random_() % 2 == 0 ? StartOnStoredSquare : StartOnPlayersChoice;
   }
 

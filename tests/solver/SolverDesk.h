@@ -12,7 +12,7 @@
 // starting position the first square is one that can be taken back.
 struct SolverPosition {
   std::vector<MoveRow> moves;
-  std::int16_t startingPosition = StartOnStoredSquare;
+  FirstSquare startingPosition = StartOnStoredSquare;
   int undos = 0;
 };
 

@@ -58,7 +58,7 @@ TEST_F(AChessboardFile, IsReadBackAsItWasSaved) {
   settings_.DarkImage = "/looks/a dark one.gif";
   settings_.UseImages = false;
   settings_.UseBorders = true;
-  settings_.ImagePositioning = 1;
+  settings_.ImagePositioning = Positioning::Centred;
   settings_.CornerDistance = 0;
   EXPECT_EQ(SaveChessboard(PathOf("x"), settings_), std::nullopt);
   Settings loaded;
@@ -88,31 +88,31 @@ TEST_F(AChessboardFile, ResetsColorsAndImagesThatItDoesNotHave) {
 TEST_F(AChessboardFile, KeepsThreeSettingsThatItDoesNotHave) {
   settings_.UseImages = false;
   settings_.UseBorders = true;
-  settings_.ImagePositioning = 1;
+  settings_.ImagePositioning = Positioning::Centred;
   Load("[Chessboard]\nUse Images=\nLight Color=5\n");
   EXPECT_FALSE(settings_.UseImages);
   EXPECT_TRUE(settings_.UseBorders);
-  EXPECT_EQ(settings_.ImagePositioning, 1);
+  EXPECT_EQ(settings_.ImagePositioning, Positioning::Centred);
 }
 
 TEST_F(AChessboardFile, Takes1ForTrueAndAllElseForFalseOfThoseThree) {
   Load("[Chessboard]\nUse Images=1\nUse Borders=1\nImage Positioning=1\n");
   EXPECT_TRUE(settings_.UseImages);
   EXPECT_TRUE(settings_.UseBorders);
-  EXPECT_EQ(settings_.ImagePositioning, 1);
+  EXPECT_EQ(settings_.ImagePositioning, Positioning::Centred);
   Load("[Chessboard]\nUse Images=yes\nUse Borders=2\nImage Positioning=7\n");
   EXPECT_FALSE(settings_.UseImages);
   EXPECT_FALSE(settings_.UseBorders);
-  EXPECT_EQ(settings_.ImagePositioning, 0);
+  EXPECT_EQ(settings_.ImagePositioning, Positioning::Stretched);
 }
 
 TEST_F(AChessboardFile, LeavesTheOtherSettingsAlone) {
-  settings_.HighlightingMethod = 1;
+  settings_.HighlightingMethod = Highlighting::CursorPosition;
   settings_.StartingX = 5;
   settings_.ShowTime = false;
   settings_.PreviousDirectory = "/a/";
   Load("[Highlight]\nHighlighting Method=0\n[Position]\nStarting X=2\n[Settings]\nShow Time=1\n");
-  EXPECT_EQ(settings_.HighlightingMethod, 1);
+  EXPECT_EQ(settings_.HighlightingMethod, Highlighting::CursorPosition);
   EXPECT_EQ(settings_.StartingX, 5);
   EXPECT_FALSE(settings_.ShowTime);
   EXPECT_EQ(settings_.PreviousDirectory, "/a/");

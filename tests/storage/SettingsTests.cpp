@@ -24,9 +24,9 @@ TEST_F(LoadedSettings, AreTheDefaultsWithoutAFile) {
   EXPECT_EQ(settings.CornerDistance, 240);
   EXPECT_TRUE(settings.UseImages);
   EXPECT_FALSE(settings.UseBorders);
-  EXPECT_EQ(settings.ImagePositioning, 0);
-  EXPECT_EQ(settings.HighlightingMethod, 2);
-  EXPECT_EQ(settings.StartingPosition, 0);
+  EXPECT_EQ(settings.ImagePositioning, Positioning::Stretched);
+  EXPECT_EQ(settings.HighlightingMethod, Highlighting::ValidMovesOnly);
+  EXPECT_EQ(settings.StartingPosition, FirstSquare::Stored);
   EXPECT_EQ(settings.StartingX, 0);
   EXPECT_EQ(settings.StartingY, 0);
 }
@@ -124,11 +124,13 @@ TEST_F(LoadedSettings, TakeOnlyTheText1ForUsingImagesAndBorders) {
 }
 
 TEST_F(LoadedSettings, UseOtherIntegersAsTheyStand) {
-  EXPECT_EQ(Load("Position", "Starting Position=7").StartingPosition, 7);
+  EXPECT_EQ(Load("Position", "Starting Position=7").StartingPosition, static_cast<FirstSquare>(7));
   EXPECT_EQ(Load("Position", "Starting X=-3").StartingX, -3);
   EXPECT_EQ(Load("Position", "Starting Y=99").StartingY, 99);
-  EXPECT_EQ(Load("Chessboard", "Image Positioning=5").ImagePositioning, 5);
-  EXPECT_EQ(Load("Highlight", "Highlighting Method=-1").HighlightingMethod, -1);
+  EXPECT_EQ(Load("Chessboard", "Image Positioning=5").ImagePositioning,
+            static_cast<Positioning>(5));
+  EXPECT_EQ(Load("Highlight", "Highlighting Method=-1").HighlightingMethod,
+            static_cast<Highlighting>(-1));
 }
 
 TEST_F(LoadedSettings, SaturateNumbersBeyondTheirSize) {

@@ -108,7 +108,7 @@ class WrittenSettings : public FolderTest {
 
 TEST_F(WrittenSettings, AreReadBack) {
   Settings settings;
-  settings.StartingPosition = 2;
+  settings.StartingPosition = FirstSquare::Random;
   settings.StartingY = 7;
   settings.KnightColor = 0x00FFFFFF;
   settings.LightImage = "/home/ann/caf\u00e9; \"a\".gif";
@@ -118,7 +118,7 @@ TEST_F(WrittenSettings, AreReadBack) {
   settings.ShowSolveWarnings = false;
   Write(PreferencesEntries(settings));
   const Settings loaded = Load();
-  EXPECT_EQ(loaded.StartingPosition, 2);
+  EXPECT_EQ(loaded.StartingPosition, FirstSquare::Random);
   EXPECT_EQ(loaded.StartingY, 7);
   EXPECT_EQ(loaded.KnightColor, 0x00FFFFFF);
   EXPECT_EQ(loaded.LightImage, settings.LightImage);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-void GameTest::Begin(std::int16_t startingPosition) {
+void GameTest::Begin(FirstSquare startingPosition) {
   state = GameState{};
   options.StartingPosition = startingPosition;
   game.Form_Load([] {});

@@ -7,16 +7,16 @@
 #include "tests/support/Games.h"
 #include "tests/support/RecordingWindow.h"
 
-inline constexpr std::int16_t StartOnStoredSquare = 0;
-inline constexpr std::int16_t StartOnPlayersChoice = 1;
-inline constexpr std::int16_t StartOnRandomSquare = 2;
+inline constexpr FirstSquare StartOnStoredSquare = FirstSquare::Stored;
+inline constexpr FirstSquare StartOnPlayersChoice = FirstSquare::PlayersChoice;
+inline constexpr FirstSquare StartOnRandomSquare = FirstSquare::Random;
 
 // A game with a recording window around it.
 class GameTest : public testing::Test {
  protected:
   // Starts the program and forgets the steps that it took; the first square is A8 unless a test
   // says otherwise.
-  void Begin(std::int16_t startingPosition = StartOnStoredSquare);
+  void Begin(FirstSquare startingPosition = StartOnStoredSquare);
   // The steps written down since the last call.
   Steps TakeLog();
 

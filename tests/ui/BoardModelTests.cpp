@@ -81,7 +81,7 @@ TEST_F(Board, HighlightsOneSquareAtATime) {
 }
 
 TEST_F(Board, HighlightsOnlyValidMovesWhenToldSo) {
-  look.HighlightingMethod = 2;
+  look.HighlightingMethod = Highlighting::ValidMovesOnly;
   model.HighlightSquare(state, look, SquareIndex(3, 3), false);
   EXPECT_NE(model.Cell(SquareIndex(3, 3)).backColor, look.HighlightColor);
   model.HighlightSquare(state, look, CornerSquare, false);
@@ -93,27 +93,27 @@ TEST_F(Board, HighlightsOnlyValidMovesWhenToldSo) {
 }
 
 TEST_F(Board, HighlightsAnySquareUnderTheCursorWhenToldSo) {
-  look.HighlightingMethod = 1;
+  look.HighlightingMethod = Highlighting::CursorPosition;
   model.HighlightSquare(state, look, SquareIndex(3, 3), false);
   EXPECT_EQ(model.Cell(SquareIndex(3, 3)).backColor, look.HighlightColor);
   EXPECT_EQ(model.Cell(SquareIndex(3, 3)).picture, SquarePicture::Highlight);
 }
 
 TEST_F(Board, HighlightsNothingWhenToldSo) {
-  look.HighlightingMethod = 0;
+  look.HighlightingMethod = Highlighting::None;
   model.HighlightSquare(state, look, ReachableSquare, false);
   EXPECT_EQ(ChangedCells(), 0);
 }
 
 TEST_F(Board, HighlightsTheSquareToBeginOnWhateverTheMethod) {
-  look.HighlightingMethod = 0;
+  look.HighlightingMethod = Highlighting::None;
   state = GameState{};
   model.HighlightSquare(state, look, SquareIndex(3, 3), false);
   EXPECT_EQ(model.Cell(SquareIndex(3, 3)).backColor, look.HighlightColor);
 }
 
 TEST_F(Board, HighlightsAForcedSquareWhateverTheMethod) {
-  look.HighlightingMethod = 0;
+  look.HighlightingMethod = Highlighting::None;
   model.HighlightSquare(state, look, SquareIndex(3, 3), true);
   EXPECT_EQ(model.Cell(SquareIndex(3, 3)).backColor, look.HighlightColor);
 }
@@ -148,7 +148,7 @@ TEST_F(Board, StretchesOrCentresTheImagesItShowsAgain) {
   look.UseImages = false;
   model.RestoreColors(state, look, -1, -1);
   look.UseImages = true;
-  look.ImagePositioning = 1;
+  look.ImagePositioning = Positioning::Centred;
   model.RestoreColors(state, look, -1, -1);
   for (int i = 0; i < SquareCount; ++i) {
     EXPECT_TRUE(model.Cell(i).imageVisible);
@@ -157,10 +157,11 @@ TEST_F(Board, StretchesOrCentresTheImagesItShowsAgain) {
 }
 
 TEST_F(Board, SwitchesStretchingWithThePositioning) {
-  for (const int positioning : {1, 0}) {
+  for (const Positioning positioning : {Positioning::Centred, Positioning::Stretched}) {
     look.ImagePositioning = positioning;
     model.RestoreColors(state, look, -1, -1);
-    for (int i = 0; i < SquareCount; ++i) EXPECT_EQ(model.Cell(i).stretch, positioning == 0);
+    for (int i = 0; i < SquareCount; ++i)
+      EXPECT_EQ(model.Cell(i).stretch, positioning == Positioning::Stretched);
   }
 }
 
@@ -174,7 +175,7 @@ TEST_F(Board, GivesAndTakesBorders) {
 }
 
 TEST_F(Board, CentresAPictureInItsCell) {
-  look.ImagePositioning = 1;
+  look.ImagePositioning = Positioning::Centred;
   model.SetCellSide(1200);
   model.SetPictureSize(SquarePicture::Light, {600, 300});
   model.RestoreColors(state, look, -1, -1);
@@ -183,7 +184,7 @@ TEST_F(Board, CentresAPictureInItsCell) {
 }
 
 TEST_F(Board, LeavesACentredPictureThatIsHalfATwipOff) {
-  look.ImagePositioning = 1;
+  look.ImagePositioning = Positioning::Centred;
   model.SetPictureSize(SquarePicture::Light, {600, 600});
   model.SetCellSide(1200);
   model.ReCenterImages(look);

@@ -6,7 +6,7 @@ namespace {
 class BoardNewsTest : public GameTest {
  protected:
   // The game has begun, and where it stands has been said.
-  void BeginListening(std::int16_t startingPosition = StartOnStoredSquare) {
+  void BeginListening(FirstSquare startingPosition = StartOnStoredSquare) {
     Begin(startingPosition);
     news.Take();
   }

@@ -123,7 +123,7 @@ TEST_F(ChessboardFiles, StoreTheWholeLookInTheSettingsFile) {
   EXPECT_EQ(stored.ChessboardBackgroundImage, "b.gif");
   EXPECT_FALSE(stored.UseImages);
   EXPECT_TRUE(stored.UseBorders);
-  EXPECT_EQ(stored.ImagePositioning, 1);
+  EXPECT_EQ(stored.ImagePositioning, Positioning::Centred);
   EXPECT_EQ(stored.CornerDistance, 300);
 }
 
@@ -154,12 +154,12 @@ TEST_F(ChessboardFiles, LeaveTheStoredWindowStateWhenMinimised) {
 }
 
 TEST_F(ChessboardFiles, LeaveHighlightingAndStartingPositionAlone) {
-  globals.settings.HighlightingMethod = 1;
-  globals.settings.StartingPosition = 2;
+  globals.settings.HighlightingMethod = Highlighting::CursorPosition;
+  globals.settings.StartingPosition = FirstSquare::Random;
   Open(FileWith("a.chessboard",
                 CompleteLook + "Highlighting Method=0\r\n[Position]\r\nStarting Position=1\r\n"));
-  EXPECT_EQ(settings.HighlightingMethod, 1);
-  EXPECT_EQ(settings.StartingPosition, 2);
+  EXPECT_EQ(settings.HighlightingMethod, Highlighting::CursorPosition);
+  EXPECT_EQ(settings.StartingPosition, FirstSquare::Random);
 }
 
 TEST_F(ChessboardFiles, GiveAFrameThatIsTooWideTheDefaultWidth) {
@@ -175,12 +175,12 @@ TEST_F(ChessboardFiles, KeepTheBordersWhenTheyDoNotSay) {
 
 TEST_F(ChessboardFiles, TakeAnythingButOneForNo) {
   globals.settings.UseBorders = true;
-  globals.settings.ImagePositioning = 1;
+  globals.settings.ImagePositioning = Positioning::Centred;
   Open(FileWith("a.chessboard",
                 "[Chessboard]\r\nUse Images=yes\r\nUse Borders=2\r\nImage Positioning=-1\r\n"));
   EXPECT_FALSE(settings.UseImages);
   EXPECT_FALSE(settings.UseBorders);
-  EXPECT_EQ(settings.ImagePositioning, 0);
+  EXPECT_EQ(settings.ImagePositioning, Positioning::Stretched);
 }
 
 TEST_F(ChessboardFiles, WithoutAnyKeyGiveTheDefaultsButForTheThreeChoices) {
@@ -194,7 +194,7 @@ TEST_F(ChessboardFiles, WithoutAnyKeyGiveTheDefaultsButForTheThreeChoices) {
   EXPECT_EQ(settings.CornerDistance, 240);
   EXPECT_FALSE(settings.UseImages);
   EXPECT_TRUE(settings.UseBorders);
-  EXPECT_EQ(settings.ImagePositioning, 1);
+  EXPECT_EQ(settings.ImagePositioning, Positioning::Centred);
 }
 
 TEST_F(ChessboardFiles, GiveTheDefaultsWithoutAWordWhenTheyAreNoFiles) {
@@ -214,7 +214,7 @@ TEST_F(ChessboardFiles, AreNotBelievedWhenEveryKeyIsHostile) {
   EXPECT_EQ(settings.CornerDistance, 240);
   EXPECT_FALSE(settings.UseImages);
   EXPECT_FALSE(settings.UseBorders);
-  EXPECT_EQ(settings.ImagePositioning, 0);
+  EXPECT_EQ(settings.ImagePositioning, Positioning::Stretched);
 }
 
 TEST_F(ChessboardFiles, AreNotBelievedWhenTheyAreNoText) {

@@ -67,7 +67,7 @@ TEST_F(CommandHistory, ListsWhatCanBeUndoneAndRedone) {
 }
 
 TEST_F(CommandHistory, ListsTheFirstSquareThatThePlayerChose) {
-  Begin(1);
+  Begin(FirstSquare::PlayersChoice);
   PlayTheTour(2);
   EXPECT_EQ(CommandsOf(state).rows,
             (std::vector<std::string>{"Undo\tA8", "Undo\tC7", "No Change"}));
@@ -95,7 +95,7 @@ TEST_F(CommandHistory, EqualsWhatASimpleModelPredicts) {
   for (int games = 0; games < 100; ++games) {
     state = GameState{};
     const std::size_t kept = below(2);
-    Begin(kept == 0 ? 1 : 0);
+    Begin(kept == 0 ? FirstSquare::PlayersChoice : FirstSquare::Stored);
     CommandModel model;
     for (const MoveRow& row : MovesMade(state)) model.Take(SquareName(row.x, row.y));
     for (int i = 0; i < 200; ++i) {
@@ -138,7 +138,7 @@ TEST_F(CommandHistory, UndoesToTheFirstSquare) {
 }
 
 TEST_F(CommandHistory, UndoesToTheEmptyBoardWhenThePlayerChoseTheFirstSquare) {
-  Begin(1);
+  Begin(FirstSquare::PlayersChoice);
   PlayTheTour(10);
   StepThroughCommands(context, -10);
   EXPECT_EQ(state.MoveCount, 0);

@@ -32,7 +32,7 @@ CommandTest::CommandTest() {
   window.onEndGame = [this](const GameOverReport& report) { EndGame(context, report); };
 }
 
-void CommandTest::Begin(std::int16_t startingPosition) {
+void CommandTest::Begin(FirstSquare startingPosition) {
   globals.settings.StartingPosition = startingPosition;
   game.Form_Load([] {});
   TakeLog();

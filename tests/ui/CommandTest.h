@@ -16,7 +16,7 @@ class CommandTest : public testing::Test {
   CommandTest();
 
   // Starts the program and forgets the steps that it took.
-  void Begin(std::int16_t startingPosition = 0);
+  void Begin(FirstSquare startingPosition = FirstSquare::Stored);
   // The steps written down since the last call, a repaint of all squares as one of them; those that
   // show another window.
   Steps TakeLog();

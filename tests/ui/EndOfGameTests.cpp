@@ -129,7 +129,7 @@ TEST_F(EndOfGame, LeadsToANewGameWithoutAQuestion) {
 }
 
 TEST_F(EndOfGame, LeadsToANewGameWhoseFirstSquareThePlayerChooses) {
-  Begin(1);
+  Begin(FirstSquare::PlayersChoice);
   windows.scoresAnswer = ScoresAnswer::NewGame;
   Play(Games::DeadEndAfter20);
   EXPECT_EQ(state.MoveCount, 0);
@@ -137,7 +137,7 @@ TEST_F(EndOfGame, LeadsToANewGameWhoseFirstSquareThePlayerChooses) {
 }
 
 TEST_F(EndOfGame, LeavesTheNewGameAloneWhenARedoLedThere) {
-  Begin(1);
+  Begin(FirstSquare::PlayersChoice);
   windows.gameOverAnswer = GameOverAnswer::Undo;
   Play(Games::DeadEndAfter20);
   windows.gameOverAnswer = GameOverAnswer::MainButton;

@@ -54,7 +54,7 @@ TEST_F(GameFiles, OpenAGameThatCanBePlayedOn) {
   EXPECT_EQ(state.CursorX, state.KnightX);
   EXPECT_EQ(state.CursorY, state.KnightY);
   EXPECT_FALSE(state.ApplyingMoves);
-  EXPECT_EQ(state.GameStartingPosition, 0);
+  EXPECT_EQ(state.GameStartingPosition, FirstSquare::Stored);
 }
 
 TEST_F(GameFiles, OfferAReplayOfAFinishedGame) {

@@ -19,7 +19,6 @@
 #include "tests/ui/Contrast.h"
 #include "tests/ui/Desk.h"
 #include "ui/application/DialogModality.h"
-#include "ui/application/HelpKey.h"
 #include "ui/help/HelpPage.h"
 #include "ui/help/frmHelp.h"
 #include "ui/widgets/WindowPlacing.h"
@@ -316,49 +315,4 @@ TEST_F(HelpBesideADialog, LeavesTheGameToTheDialog) {
   QTest::keyClick(game.windowHandle(), Qt::Key_A);
   EXPECT_EQ(QGuiApplication::modalWindow(), dialog->windowHandle());
   EXPECT_TRUE(field.text().isEmpty());
-}
-
-class F1 : public testing::Test {
- protected:
-  void OpenDialog(QWidget& dialog) {
-    dialog.setWindowModality(Qt::ApplicationModal);
-    dialog.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
-  }
-
-  QStringList topics;
-  HelpKey key{[this](const QString& topic) { topics << topic; }};
-};
-
-TEST_F(F1, InADialogAsksForItsPage) {
-  QDialog dialog;
-  dialog.setObjectName("frmSolve");
-  QLineEdit field(&dialog);
-  OpenDialog(dialog);
-  QTest::keyClick(&field, Qt::Key_F1);
-  EXPECT_EQ(topics, QStringList("frmSolve"));
-}
-
-TEST_F(F1, InAMessageAsksForThePageOfTheWindowBelow) {
-  QDialog dialog;
-  dialog.setObjectName("frmPreferences");
-  QMessageBox message(&dialog);
-  OpenDialog(message);
-  QTest::keyClick(&message, Qt::Key_F1);
-  EXPECT_EQ(topics, QStringList("frmPreferences"));
-}
-
-TEST_F(F1, InADialogWithoutAPageAsksForTheContents) {
-  QDialog dialog;
-  OpenDialog(dialog);
-  QTest::keyClick(&dialog, Qt::Key_F1);
-  EXPECT_EQ(topics, QStringList(QString()));
-}
-
-TEST_F(F1, IsLeftAloneWhenNoDialogIsOpen) {
-  QWidget window;
-  window.setObjectName("frmGame");
-  window.show();
-  QTest::keyClick(&window, Qt::Key_F1);
-  EXPECT_TRUE(topics.isEmpty());
 }

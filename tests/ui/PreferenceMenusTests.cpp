@@ -160,11 +160,11 @@ TEST_F(PreferenceMenusTest, StretchOrCenterTheImages) {
     EXPECT_TRUE(IsChecked(window, "cmdLight", PreferenceEntry::StretchImages));
     EXPECT_FALSE(IsChecked(window, "cmdLight", PreferenceEntry::CenterImages));
     PickFrom(window, "cmdLight", PreferenceEntry::CenterImages);
-    EXPECT_EQ(InMemory().ImagePositioning, 1);
+    EXPECT_EQ(InMemory().ImagePositioning, Positioning::Centred);
     EXPECT_FALSE(IsChecked(window, "cmdLight", PreferenceEntry::StretchImages));
     EXPECT_TRUE(IsChecked(window, "cmdLight", PreferenceEntry::CenterImages));
     PickFrom(window, "cmdLight", PreferenceEntry::StretchImages);
-    EXPECT_EQ(InMemory().ImagePositioning, 0);
+    EXPECT_EQ(InMemory().ImagePositioning, Positioning::Stretched);
   });
 }
 

@@ -77,7 +77,7 @@ TEST_F(PreferencesKeeping, KeepsTheHighlighting) {
     KeepAndRestart([method](frmPreferences& window) {
       Click(window, QString("optHighlight(%1)").arg(method).toLatin1());
     });
-    EXPECT_EQ(InMemory().HighlightingMethod, method);
+    EXPECT_EQ(InMemory().HighlightingMethod, static_cast<Highlighting>(method));
   }
 }
 
@@ -87,7 +87,7 @@ TEST_F(PreferencesKeeping, KeepsTheStartingPosition) {
     KeepAndRestart([position](frmPreferences& window) {
       Click(window, QString("optPosition(%1)").arg(position).toLatin1());
     });
-    EXPECT_EQ(InMemory().StartingPosition, position);
+    EXPECT_EQ(InMemory().StartingPosition, static_cast<FirstSquare>(position));
   }
 }
 
@@ -113,7 +113,7 @@ TEST_F(PreferencesKeeping, KeepsBordersPositioningAndFrameWidth) {
     RightClick(window, "cmdFrame");
   });
   EXPECT_TRUE(InMemory().UseBorders);
-  EXPECT_EQ(InMemory().ImagePositioning, 1);
+  EXPECT_EQ(InMemory().ImagePositioning, Positioning::Centred);
   EXPECT_EQ(InMemory().CornerDistance, 600);
   EXPECT_EQ(Window().Board().SquareRectangle(0).topLeft(), QPoint(40, 40));
 }
@@ -203,7 +203,7 @@ TEST_F(PreferencesKeeping, KeepsChosenColorsInMemoryOnCancelUntilTheNextStart) {
   });
   EXPECT_EQ(InMemory().LightColor, 255);
   EXPECT_FALSE(InMemory().UseImages);
-  EXPECT_EQ(InMemory().HighlightingMethod, 2);
+  EXPECT_EQ(InMemory().HighlightingMethod, Highlighting::ValidMovesOnly);
   Restart();
   EXPECT_EQ(InMemory().LightColor, Settings().LightColor);
 }

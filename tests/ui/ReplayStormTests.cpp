@@ -17,7 +17,7 @@ class ReplayStorm : public ReplayTest {
   // Sometimes there are moves to redo beyond the end of the replay.
   int BeginAnyGame() {
     state = GameState{};
-    Begin(static_cast<std::int16_t>(Below(2)));
+    Begin(static_cast<FirstSquare>(Below(2)));
     PlayTour(game, GameLengths[static_cast<std::size_t>(Below(6))]);
     for (int undos = Below(3); undos > 0 && state.MoveCount > 2; --undos) game.mnuEditUndo_Click();
     return state.MoveCount;

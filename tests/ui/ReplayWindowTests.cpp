@@ -165,7 +165,7 @@ TEST_F(ReplayWindow, GoesNoFurtherThanTheGameDidWhenThereIsMoreToRedo) {
 }
 
 TEST_F(ReplayWindow, KeepsTheFirstSquareThatThePlayerChose) {
-  Begin(1);
+  Begin(FirstSquare::PlayersChoice);
   PlayTour(game, 5);
   Watch([&](frmReplay& replay) {
     replay.DoUpdateReplay(-3);

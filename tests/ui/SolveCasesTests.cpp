@@ -31,7 +31,7 @@ class SolveCases : public SolveDesk, public testing::WithParamInterface<int> {
   // By clicks on the board.
   void OpenGame(const std::vector<MoveRow>& moves) {
     SolveDesk::OpenGame({});
-    globals.settings.StartingPosition = 1;
+    globals.settings.StartingPosition = FirstSquare::PlayersChoice;
     Choose("mnuFileNew");
     for (const MoveRow& move : moves) ClickSquare(move.x, move.y);
     ASSERT_EQ(MovesMade(State()), moves);

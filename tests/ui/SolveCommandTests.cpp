@@ -68,7 +68,7 @@ TEST_F(SolveCommand, KeepsTheWarningsOfOtherPlayers) {
 }
 
 TEST_F(SolveCommand, TakesARandomFirstSquareOnAnEmptyBoard) {
-  Begin(1);
+  Begin(FirstSquare::PlayersChoice);
   window.answers = {PlayerSays::Yes};
   windows.onShow = [this](const std::string&) {
     EXPECT_EQ(window.log[window.log.size() - 3], "RestoreColors");

@@ -5,7 +5,7 @@
 #include "tests/ui/Labels.h"
 
 void SolveTest::Open(std::string_view squares, int refreshRate) {
-  Begin(1);
+  Begin(FirstSquare::PlayersChoice);
   PlaySquares(game, squares);
   TakeLog();
   state.ApplyingMoves = true;

@@ -32,7 +32,7 @@ TEST_F(WhereNothingCanBeKept, ThePreferencesApply) {
   });
   EXPECT_EQ(InMemory().LightColor, 255);
   EXPECT_FALSE(InMemory().UseImages);
-  EXPECT_EQ(InMemory().HighlightingMethod, 0);
+  EXPECT_EQ(InMemory().HighlightingMethod, Highlighting::None);
   EXPECT_FALSE(InMemory().ShowTime);
   EXPECT_FALSE(MenuItem("mnuViewTime").isChecked());
 }
@@ -44,7 +44,7 @@ TEST_F(WhereNothingCanBeKept, TheyApplyInTheNextDialogToo) {
     Click(window, "cmdOK");
   });
   InPreferences([](frmPreferences& window) { Click(window, "cmdOK"); });
-  EXPECT_EQ(InMemory().HighlightingMethod, 1);
+  EXPECT_EQ(InMemory().HighlightingMethod, Highlighting::CursorPosition);
 }
 
 TEST_F(WhereNothingCanBeKept, AChessboardIsOpened) {
@@ -97,7 +97,7 @@ TEST_F(WhileAnotherCopyIsStopped, ThePreferencesApplyAndAreSavedLater) {
     Click(window, "optHighlight(0)");
     Click(window, "cmdOK");
   });
-  EXPECT_EQ(InMemory().HighlightingMethod, 0);
+  EXPECT_EQ(InMemory().HighlightingMethod, Highlighting::None);
   EXPECT_EQ(Stored("Highlight", "Highlighting Method"), "");
   LetItGoOn();
   EXPECT_TRUE(

@@ -41,7 +41,7 @@ void BoardModel::RestoreColors(const GameState& state, const BoardLook& look, in
     GiveLook(SquareIndex(state.KnightX, state.KnightY), look, look.KnightColor,
              SquarePicture::Knight);
   }
-  if (look.UseImages && look.ImagePositioning == 1) ReCenterImages(look);
+  if (look.UseImages && look.ImagePositioning == Positioning::Centred) ReCenterImages(look);
 }
 
 void BoardModel::RestoreCell(const GameState& state, const BoardLook& look, int x, int y) {
@@ -65,8 +65,10 @@ void BoardModel::RestoreImage(int index, const BoardLook& look) {
     return;
   }
   const BoardCell& cell = Cell(index);
-  if (!cell.stretch && look.ImagePositioning == 0) Write(index, &BoardCell::stretch, true);
-  if (cell.stretch && look.ImagePositioning == 1) Write(index, &BoardCell::stretch, false);
+  if (!cell.stretch && look.ImagePositioning == Positioning::Stretched)
+    Write(index, &BoardCell::stretch, true);
+  if (cell.stretch && look.ImagePositioning == Positioning::Centred)
+    Write(index, &BoardCell::stretch, false);
   Write(index, &BoardCell::imageVisible, true);
 }
 
@@ -74,11 +76,12 @@ void BoardModel::HighlightSquare(const GameState& state, const BoardLook& look, 
                                  bool forced) {
   const int x = ColumnOf(index);
   const int y = RowOf(index);
-  const bool followsCursor = look.HighlightingMethod == 1 || !state.FirstMoveMade;
+  const bool followsCursor =
+      look.HighlightingMethod == Highlighting::CursorPosition || !state.FirstMoveMade;
   if (forced || (followsCursor && Cell(index).backColor != look.HighlightColor)) {
     RestoreColors(state, look, x, y);
     Highlight(index, look);
-  } else if (look.HighlightingMethod == 2) {
+  } else if (look.HighlightingMethod == Highlighting::ValidMovesOnly) {
     RestoreColors(state, look, x, y);
     const bool isValidMove = state.Cell(x, y) == GameState::Unvisited &&
                              IsKnightsMove(state.KnightX, state.KnightY, x, y);
@@ -90,12 +93,12 @@ void BoardModel::Highlight(int index, const BoardLook& look) {
   Write(index, &BoardCell::backColor, look.HighlightColor);
   if (!look.UseImages) return;
   Write(index, &BoardCell::picture, SquarePicture::Highlight);
-  if (look.ImagePositioning == 1) ReCenterImages(look);
+  if (look.ImagePositioning == Positioning::Centred) ReCenterImages(look);
 }
 
 void BoardModel::ReCenterImages(const BoardLook& look) {
   for (int index = 0; index < SquareCount; ++index) {
-    if (look.ImagePositioning == 1) {
+    if (look.ImagePositioning == Positioning::Centred) {
       Centre(index);
     } else {
       Stretch(index);

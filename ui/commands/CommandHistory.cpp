@@ -7,7 +7,9 @@ namespace {
 
 // The player's first square can be undone, a first square set by the program cannot.
 int FirstThatCanBeUndone(const GameState& state) {
-  return state.GameStartingPosition == 1 ? 0 : std::min<int>(state.MoveCount, 1);
+  return state.GameStartingPosition == FirstSquare::PlayersChoice
+             ? 0
+             : std::min<int>(state.MoveCount, 1);
 }
 
 std::string Row(const char* command, const MoveRow& square) {

@@ -137,8 +137,8 @@ std::optional<int> PreferenceMenus::PopUp(QMenu& menu, const QPoint& place, bool
 }
 
 void PreferenceMenus::ShowLook(const BoardLook& look) {
-  Check(*mnuImageOptions_, StretchImages, look.ImagePositioning == 0);
-  Check(*mnuImageOptions_, CenterImages, look.ImagePositioning == 1);
+  Check(*mnuImageOptions_, StretchImages, look.ImagePositioning == Positioning::Stretched);
+  Check(*mnuImageOptions_, CenterImages, look.ImagePositioning == Positioning::Centred);
   Check(*mnuImageOptions_, Borders, look.UseBorders);
   Check(*mnuSystemColors_, Borders, look.UseBorders);
 }

@@ -23,14 +23,14 @@ void PreviewImage::SetPicture(const QImage& picture) {
   update();
 }
 
-void PreviewImage::SetPositioning(int imagePositioning) {
-  positioning_ = imagePositioning;
+void PreviewImage::SetPositioning(Positioning positioning) {
+  positioning_ = positioning;
   update();
 }
 
 void PreviewImage::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  if (positioning_ == 1) {
+  if (positioning_ == Positioning::Centred) {
     PaintInTheMiddle(painter);
   } else {
     PaintStretched(painter);

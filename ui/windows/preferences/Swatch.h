@@ -16,7 +16,7 @@ class PreviewImage : public QWidget {
   void SetPicture(const QImage& picture);
   bool HasPicture() const { return !picture_.isNull(); }
   // 0 = stretched over the preview, 1 = in its own size in the middle.
-  void SetPositioning(int imagePositioning);
+  void SetPositioning(Positioning positioning);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -27,7 +27,7 @@ class PreviewImage : public QWidget {
 
   QImage picture_;
   QPixmap stretched_;  // for the present screen
-  int positioning_ = 0;
+  Positioning positioning_ = Positioning::Stretched;
 };
 
 // Shows a colour within a line, and a picture over it.

@@ -24,12 +24,16 @@ constexpr const char* ImageFilter =
     "All Files (*.*)|*.*";
 
 // Values that files may hold and the options do not have act like one of the options.
-int HighlightOption(int highlightingMethod) {
-  return highlightingMethod == 1 || highlightingMethod == 2 ? highlightingMethod : 0;
+// The options stand in the order of the numbers.
+int OptionOf(Highlighting method) {
+  const bool highlights =
+      method == Highlighting::CursorPosition || method == Highlighting::ValidMovesOnly;
+  return static_cast<int>(highlights ? method : Highlighting::None);
 }
 
-int PositionOption(int startingPosition) {
-  return startingPosition == 0 || startingPosition == 1 ? startingPosition : 2;
+int OptionOf(FirstSquare position) {
+  const bool isRandom = position != FirstSquare::Stored && position != FirstSquare::PlayersChoice;
+  return static_cast<int>(isRandom ? FirstSquare::Random : position);
 }
 
 int StartingSquare(const GameOptions& options) {
@@ -60,8 +64,8 @@ void frmPreferences::Form_Load() {
   chkUseImages_->setChecked(settings_.UseImages);
   chkUseImages_Click();
   LoadAndShowImages(settings_.UseImages);
-  optPosition_->button(PositionOption(settings_.StartingPosition))->setChecked(true);
-  optHighlight_->button(HighlightOption(settings_.HighlightingMethod))->setChecked(true);
+  optPosition_->button(OptionOf(settings_.StartingPosition))->setChecked(true);
+  optHighlight_->button(OptionOf(settings_.HighlightingMethod))->setChecked(true);
   pctGrid_->SetupLittleChessboard(StartingSquare(settings_));
   menus_.ShowLook(settings_);
 }
@@ -156,10 +160,10 @@ void frmPreferences::mnuSystemColorsEntry_Click(int index) {
 void frmPreferences::mnuImageOptionsEntry_Click(int index) {
   switch (index) {
     case PreferenceEntry::StretchImages:
-      settings_.ImagePositioning = 0;
+      settings_.ImagePositioning = Positioning::Stretched;
       break;
     case PreferenceEntry::CenterImages:
-      settings_.ImagePositioning = 1;
+      settings_.ImagePositioning = Positioning::Centred;
       break;
     case PreferenceEntry::Borders:
       settings_.UseBorders = !settings_.UseBorders;
@@ -180,8 +184,8 @@ void frmPreferences::pctGrid_Click() {
 }
 
 void frmPreferences::cmdOK_Click() {
-  settings_.StartingPosition = static_cast<std::int16_t>(optPosition_->checkedId());
-  settings_.HighlightingMethod = optHighlight_->checkedId();
+  settings_.StartingPosition = static_cast<FirstSquare>(optPosition_->checkedId());
+  settings_.HighlightingMethod = static_cast<Highlighting>(optHighlight_->checkedId());
   settings_.StartingX = static_cast<std::int16_t>(pctGrid_->SelectedX());
   settings_.StartingY = static_cast<std::int16_t>(pctGrid_->SelectedY());
   settings_.UseImages = chkUseImages_->isChecked();
