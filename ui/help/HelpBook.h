@@ -29,6 +29,9 @@ class HelpBook {
   QHelpContentWidget* ContentsTree() { return engine_.contentWidget(); }
   QAbstractItemModel& Keywords() { return *engine_.indexModel(); }
 
+  // The book cannot be used afterwards.
+  void RemoveTemporaryFiles() { directory_.remove(); }
+
  private:
   void Open(const QString& pathName);
 

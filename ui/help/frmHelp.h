@@ -29,6 +29,9 @@ class frmHelp : public QMainWindow {
   // The page of an index entry or of a window's object name; the contents when there is none.
   void ShowTopic(const QString& keyword);
 
+  // For a program that ends at once.
+  void RemoveTemporaryFiles() { book_.RemoveTemporaryFiles(); }
+
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  protected:

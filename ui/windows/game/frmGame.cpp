@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QPixmapCache>
 #include <QScopedValueRollback>
+#include <QSessionManager>
 #include <QTimer>
 
 #include "storage/AttemptMark.h"
@@ -51,6 +52,9 @@ frmGame::~frmGame() = default;
 
 void frmGame::Form_Load(const std::string& commandLine) {
   game_.Form_Load([this] { SetUp(); });
+  outsideEnd_.emplace([this] { LeaveUnasked(); });
+  connect(qApp, &QGuiApplication::commitDataRequest, this, &frmGame::CommitSession,
+          Qt::DirectConnection);
   ShowWindow();
   if (const auto fileName = GameFileOf(commandLine)) {
     OpenGameFile(PathFromBytes(QByteArray::fromStdString(*fileName)));
@@ -65,6 +69,7 @@ void frmGame::SetUp() {
 
 bool frmGame::Perform(const std::function<void()>& deed) {
   if (!PlayerMayAct()) return false;
+  exitAgreed_ = false;
   board_->Announcer().BeginCommand();
   {
     const QScopedValueRollback performing(performing_, true);
@@ -164,8 +169,28 @@ void frmGame::closeEvent(QCloseEvent* event) {
   guard_.SetCloseRequested(!PlayerMayAct());
   if (!PlayerMayAct()) pace_.Hurry();
   if (auto* panel = findChild<SidePanel*>()) panel->CloseDialog();
-  event->setAccepted(PlayerMayAct() && game_.Form_Unload());
+  event->setAccepted(PlayerMayAct() && MayExit());
   if (event->isAccepted()) SaveSettings();
+}
+
+bool frmGame::MayExit() {
+  return exitAgreed_ || game_.Form_Unload();
+}
+
+// The session that is about to end closes the window later, if nobody has stopped it; or it does
+// not.
+void frmGame::CommitSession(QSessionManager& session) {
+  if (game_.GameInProgress() && session.allowsInteraction()) {
+    exitAgreed_ = game_.Form_Unload();
+    session.release();
+    if (!exitAgreed_) return session.cancel();
+  }
+  SaveSettings();
+}
+
+void frmGame::LeaveUnasked() {
+  SaveSettings();
+  if (help_ != nullptr) help_->RemoveTemporaryFiles();
 }
 
 void frmGame::Exit() {

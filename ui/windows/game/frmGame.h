@@ -19,6 +19,7 @@
 #include "ui/application/InputWatch.h"
 #include "ui/application/LateAltKey.h"
 #include "ui/application/LeftoverInput.h"
+#include "ui/application/OutsideEnd.h"
 #include "ui/commands/CommandContext.h"
 #include "ui/commands/MainWindow.h"
 #include "ui/widgets/pictures/PictureReader.h"
@@ -29,6 +30,7 @@
 #include "ui/windows/game/ScreenWindows.h"
 
 class BoardView;
+class QSessionManager;
 class frmHelp;
 
 // The main window: it owns the live game and is the only place where it changes. It forwards what
@@ -97,7 +99,10 @@ class frmGame : public QMainWindow, public MainWindow {
   void OpenSettingsAndPlaceWindow();
   void CreateBoard();
   void ShowWindow();
+  bool MayExit();
+  void CommitSession(QSessionManager& session);
   void SaveSettings();
+  void LeaveUnasked();
   void WorkChanged(WorkGuard::Change change);
   void CloseAsRequested();
   bool IsClockResting() const;
@@ -136,7 +141,8 @@ class frmGame : public QMainWindow, public MainWindow {
   LeftoverInput leftoverInput_;
   bool performing_ = false;
   bool resizePending_ = false;
-  QRect placedBounds_;  // where the window was put before it was shown
+  bool exitAgreed_ = false;  // the player has done nothing since he agreed to the session's end
+  QRect placedBounds_;       // where the window was put before it was shown
   // The stored place, until the window has settled there with its frame.
   std::optional<WindowPlacement> unsettled_;
   // From the corner of the window manager's frame to the window's own; known once the window has
@@ -145,4 +151,5 @@ class frmGame : public QMainWindow, public MainWindow {
   QElapsedTimer sinceShown_;
   bool tiled_ = false;        // was given a size as soon as it was shown, and keeps to such sizes
   QSize sizeBeforeSquaring_;  // the size that was last asked to change, invalid when it did
+  std::optional<OutsideEnd> outsideEnd_;  // from when the settings have been read
 };

@@ -1,0 +1,227 @@
+"""Ends that come from outside: the session, signals, the display. Nothing is lost, nothing is left."""
+
+import configparser
+import signal
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+from desktop import Desktop, copy_of_program, need, wait_for
+
+PROGRAM_DIRECTORY = None
+TITLE = "^Gallopade Nova($|:| -)"
+HELP = "^Gallopade Nova Help$"
+SIGNALS = (signal.SIGTERM, signal.SIGHUP, signal.SIGINT)
+
+
+class EndingTest(unittest.TestCase):
+    """A game that is not finished, and a setting that is yet to be written."""
+
+    def setUp(self):
+        self.desktop = self.enterContext(Desktop())
+        self.prepare()
+
+    def prepare(self):
+        self.program = copy_of_program(PROGRAM_DIRECTORY,
+                                       self.enterContext(tempfile.TemporaryDirectory()))
+        self.settings = self.program / "GallopadeNova.ini"
+        self.settings.write_text("[Settings]\nShow Solve Warnings=0\nSolve Refresh=1000\n"
+                                 "Show Time=1\n")
+        self.temporary = Path(self.enterContext(tempfile.TemporaryDirectory()))
+        self.desktop.environment["TMPDIR"] = str(self.temporary)
+        self.files = self.names_beside_the_program()
+
+    def names_beside_the_program(self):
+        return sorted(path.name for path in self.program.iterdir())
+
+    def start(self):
+        self.process = self.desktop.start_program(self.program / "GallopadeNova")
+        self.addCleanup(self.end)
+        self.game = self.desktop.window(TITLE)
+        self.desktop.focus(self.game)
+        self.desktop.press("Right", "Down", "Down", "Return")
+        self.caption_has(": 2 - ")
+        self.desktop.press("alt+v", "t")
+        wait_for(lambda: self.desktop.title(self.game).endswith(": 2"), "the time to be hidden")
+
+    def end(self):
+        self.process.kill()
+        self.process.wait()
+
+    def caption_has(self, text):
+        wait_for(lambda: text in self.desktop.title(self.game), f"the caption with {text}")
+
+    def open_help(self):
+        self.desktop.press("F1")
+        self.desktop.window(HELP)
+        self.assertTrue(list(self.temporary.iterdir()))
+
+    def settings_are_kept(self):
+        settings = configparser.ConfigParser(strict=False)
+        settings.optionxform = str
+        settings.read_string(self.settings.read_text())
+        self.assertEqual(settings["Settings"]["Show Time"], "0")
+        self.assertIn("Left", settings["Settings"])
+
+    def nothing_is_left(self):
+        self.assertEqual(list(self.temporary.iterdir()), [])
+        self.assertEqual(self.names_beside_the_program(), self.files)
+
+    def ends_by(self, number):
+        self.process.send_signal(number)
+        self.assertEqual(self.process.wait(20), -number)
+        self.settings_are_kept()
+        self.nothing_is_left()
+
+
+class Signals(EndingTest):
+    def test_are_obeyed_at_rest(self):
+        for number in SIGNALS:
+            with self.subTest(signal=number):
+                self.prepare()
+                self.start()
+                self.open_help()
+                self.ends_by(number)
+
+    def test_are_obeyed_in_a_dialog(self):
+        self.start()
+        self.open_help()
+        self.desktop.focus(self.game)
+        self.desktop.press("alt+e", "p")
+        self.desktop.window("^Preferences$")
+        self.ends_by(signal.SIGTERM)
+
+    def test_are_obeyed_while_a_question_waits(self):
+        self.start()
+        self.desktop.press("F2")
+        self.desktop.window(r"^New Game\?$")
+        self.ends_by(signal.SIGHUP)
+
+    def test_are_obeyed_during_a_search(self):
+        self.start()
+        self.desktop.press("alt+f", "l")
+        self.desktop.focus(self.desktop.window("^Solve$"))
+        self.desktop.press("alt+s")
+        self.ends_by(signal.SIGTERM)
+
+    def test_are_obeyed_one_after_the_other(self):
+        self.start()
+        for number in SIGNALS:
+            self.process.send_signal(number)
+        self.assertIn(-self.process.wait(20), SIGNALS)
+        self.settings_are_kept()
+
+    def test_that_the_caller_ignores_stay_ignored(self):
+        self.process = self.desktop.start_program(
+            "sh", "-c", 'trap "" HUP; exec "$0"', self.program / "GallopadeNova")
+        self.desktop.focus(self.desktop.window(TITLE))
+        self.process.send_signal(signal.SIGHUP)
+        self.desktop.press("F1")
+        self.desktop.window(HELP)
+        self.assertIsNone(self.process.poll())
+
+
+class TheDisplay(EndingTest):
+    def test_may_go_away(self):
+        self.start()
+        self.open_help()
+        x_server = self.desktop.processes[0]
+        x_server.kill()
+        x_server.wait()
+        self.process.wait(20)
+        self.settings_are_kept()
+        self.nothing_is_left()
+
+
+class TheSession(EndingTest):
+    def setUp(self):
+        super().setUp()
+        self.manager = subprocess.Popen(
+            [sys.executable, Path(__file__).with_name("session_manager.py")],
+            env=self.desktop.environment, text=True, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+            stderr=subprocess.DEVNULL)
+        self.addCleanup(self.end_manager)
+        self.desktop.environment["SESSION_MANAGER"] = self.told()
+        self.start()
+        self.assertEqual(self.told(), "registered")
+
+    def end_manager(self):
+        self.manager.kill()
+        self.manager.communicate()
+
+    def told(self):
+        return self.manager.stdout.readline().strip()
+
+    def say(self, command):
+        self.manager.stdin.write(command + "\n")
+        self.manager.stdin.flush()
+
+    def answer(self, key):
+        question = self.desktop.window(r"^Exit\?$")
+        self.desktop.focus(question)
+        self.desktop.press(key)
+        wait_for(lambda: not self.desktop.has_window(r"^Exit\?$"), "the question to go")
+
+    def move_again(self):
+        self.desktop.focus(self.game)
+        self.desktop.press("Right", "Down", "Down", "Return")
+        self.caption_has(": 3")
+
+    def test_does_not_end_if_the_player_says_no(self):
+        self.say("end")
+        self.answer("alt+n")
+        self.assertEqual((self.told(), self.told()), ("cancelled", "saved"))
+        self.move_again()
+        self.assertIsNone(self.process.poll())
+
+    def test_ends_if_the_player_says_yes_and_he_is_asked_once(self):
+        self.open_help()
+        self.say("end")
+        self.answer("alt+y")
+        self.assertEqual(self.told(), "saved")
+        self.settings_are_kept()
+        self.say("die")
+        self.assertEqual(self.process.wait(20), 0)
+        self.nothing_is_left()
+
+    def test_asks_behind_no_dialog(self):
+        self.desktop.press("alt+e", "p")
+        self.desktop.window("^Preferences$")
+        self.say("end")
+        self.answer("alt+y")
+        self.assertEqual(self.told(), "saved")
+        self.say("die")
+        self.assertEqual(self.process.wait(20), 0)
+        self.settings_are_kept()
+
+    def test_asks_nothing_where_that_is_forbidden(self):
+        self.say("end unasked")
+        self.assertEqual(self.told(), "saved")
+        self.settings_are_kept()
+
+    def test_asks_nothing_when_no_game_is_in_progress(self):
+        self.desktop.press("F2")
+        self.desktop.focus(self.desktop.window(r"^New Game\?$"))
+        self.desktop.press("alt+y")
+        self.caption_has(": 1")
+        self.say("end")
+        self.assertEqual(self.told(), "saved")
+        self.settings_are_kept()
+        self.say("die")
+        self.assertEqual(self.process.wait(20), 0)
+
+    def test_that_was_to_end_asks_again_after_another_move(self):
+        self.say("end")
+        self.answer("alt+y")
+        self.assertEqual(self.told(), "saved")
+        self.move_again()
+        self.desktop.close(self.game)
+        self.desktop.window(r"^Exit\?$")
+
+
+if __name__ == "__main__":
+    need("Xvfb", "openbox", "xdotool")
+    PROGRAM_DIRECTORY = Path(sys.argv.pop(1))
+    unittest.main()
