@@ -11,6 +11,7 @@ test_packages=(
   libgtest-dev libbenchmark-dev clang-format clang-tidy python3
   xvfb openbox xdotool wmctrl x11-utils imagemagick fonts-dejavu-core strace
   dbus at-spi2-core python3-pyatspi gir1.2-atspi-2.0 libxml2-utils
+  orca speech-dispatcher
   cups cups-client poppler-utils
   weston qt6-wayland
   desktop-file-utils appstream shared-mime-info libglib2.0-bin xdg-utils libfile-mimeinfo-perl

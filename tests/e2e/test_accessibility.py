@@ -293,4 +293,5 @@ if __name__ == "__main__":
     with Desktop() as DESKTOP:
         from screen_reader import ScreenReader
         READER = ScreenReader()
-        unittest.main(exit=False)
+        RESULT = unittest.main(exit=False).result
+    sys.exit(not RESULT.wasSuccessful())

@@ -108,6 +108,14 @@ TEST_F(BoardNewsTest, SaysWhereUndoAndRedoLead) {
   EXPECT_EQ(Heard(), "B6: 2 visited, reaches A4, C4, C8, D5, D7");
 }
 
+TEST_F(BoardNewsTest, SaysTheCountAgainWhenAMoveIsTakenBackAtOnce) {
+  BeginListening();
+  window.onEndGame = [this](const GameOverReport&) { TakeBack(); };
+  PlaySquares(game, Games::DeadEndAfter20.substr(0, Games::DeadEndAfter20.size() - 3));
+  Heard();
+  EXPECT_EQ(HeardAfterPress("A1"), "C2: 19 visited, reaches A1, E3");
+}
+
 TEST_F(BoardNewsTest, SaysThatThereIsNothingToUndo) {
   BeginListening();
   game.mnuFileNew_Click();

@@ -8,7 +8,8 @@ void BoardNews::Expect(Wish wish, int square) {
 }
 
 std::optional<Sentence> BoardNews::Take() {
-  const Standing now{game_.GameSerial, game_.MoveCount, SquareOfInterest(game_)};
+  const bool canRedo = game_.MoveList[static_cast<std::size_t>(game_.MoveCount)] != EmptyMove;
+  const Standing now{game_.GameSerial, game_.MoveCount, canRedo, SquareOfInterest(game_)};
   std::optional<Sentence> news = NewsOf(now);
   told_ = now;
   cameBack_ = false;
@@ -17,8 +18,7 @@ std::optional<Sentence> BoardNews::Take() {
 
 std::optional<Sentence> BoardNews::NewsOf(const Standing& now) const {
   if (!told_) return GameSentence(game_, Occasion::Arrival);
-  const bool isSameGame = now.gameSerial == told_->gameSerial;
-  if (!isSameGame || now.moveCount != told_->moveCount) return NewsOfGame(now);
+  if (!now.IsGameOf(*told_)) return NewsOfGame(now);
   if (now != told_ || cameBack_) return SquareSentence(game_, now.square);
   return Answer(now.square);
 }
@@ -26,8 +26,7 @@ std::optional<Sentence> BoardNews::NewsOf(const Standing& now) const {
 // A game that has gone back to its beginning with nothing to redo has begun anew.
 Sentence BoardNews::NewsOfGame(const Standing& now) const {
   const bool isSameGame = now.gameSerial == told_->gameSerial;
-  const bool canRedo = game_.MoveList[static_cast<std::size_t>(now.moveCount)] != EmptyMove;
-  const bool isAtBeginning = now.moveCount <= 1 && !canRedo;
+  const bool isAtBeginning = now.moveCount <= 1 && !now.canRedo;
   const bool wentBack = now.moveCount < told_->moveCount;
   if (isAtBeginning && (wentBack || !isSameGame)) return GameSentence(game_, Occasion::NewGame);
   return GameSentence(game_, isSameGame ? Occasion::Move : Occasion::Arrival);

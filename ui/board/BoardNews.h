@@ -24,8 +24,15 @@ class BoardNews {
 
  private:
   struct Standing {
+    // Two differ as games when anything but the square does.
+    bool IsGameOf(const Standing& other) const {
+      return gameSerial == other.gameSerial && moveCount == other.moveCount &&
+             canRedo == other.canRedo;
+    }
+
     std::uint32_t gameSerial = 0;
     int moveCount = 0;
+    bool canRedo = false;
     int square = -1;
 
     friend bool operator==(const Standing&, const Standing&) = default;

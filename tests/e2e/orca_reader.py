@@ -1,0 +1,31 @@
+#!/usr/bin/env python3
+"""Starts Orca with its defaults, as its own start script does, but beside any other copy of it.
+
+orca_reader.py FILE: every error that Orca meets while it deals with an event goes to the file.
+"""
+
+import sys
+import traceback
+
+import gi
+
+gi.require_version("Gdk", "3.0")
+
+from orca import debug  # noqa: E402
+
+ERRORS = sys.argv[1]
+
+
+def write_error(_level):
+    error = traceback.format_exc()
+    if "brlapi" not in error.lower():  # there is no braille display
+        with open(ERRORS, "a", encoding="utf-8") as file:
+            file.write(error)
+
+
+debug.printException = write_error
+
+from orca import orca  # noqa: E402
+
+orca.getSettingsManager().activate(None, {})
+sys.exit(orca.main())

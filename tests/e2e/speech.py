@@ -1,0 +1,89 @@
+"""A real screen reader with a voice that writes down what it says."""
+
+import importlib.util
+import json
+import os
+import re
+import sys
+import time
+from pathlib import Path
+
+from desktop import SKIPPED, need
+
+HERE = Path(__file__).resolve().parent
+PATIENCE_SECONDS = 60
+# More than anybody speaks; what is cut off within a moment is cut off all the same.
+WORDS_A_SECOND = 12
+CONFIGURATION = """\
+AudioOutputMethod "libao"
+DefaultModule voice
+DefaultLanguage "en"
+AddModule "voice" "{voice}" ""
+"""
+
+
+def need_orca():
+    """Ends the test program as skipped on a machine without Orca."""
+    need("Xvfb", "openbox", "dbus-daemon", "xdotool", "xprop", "orca", "speech-dispatcher")
+    if importlib.util.find_spec("orca") is None:
+        print("skipped, not installed: orca for", sys.executable)
+        sys.exit(SKIPPED)
+
+
+class Speech:
+    """Orca with its defaults on a desktop, and all that it says there."""
+
+    def __init__(self, desktop):
+        self.desktop = desktop
+        self.folder = Path(desktop.folder)
+        self.voice_file = self.folder / "said"
+        self.errors_file = self.folder / "orca errors"
+        self.forgotten = 0
+        self.voice_file.touch()
+        desktop.environment.update(
+            VOICE_FILE=str(self.voice_file), VOICE_SPEED=str(WORDS_A_SECOND),
+            SPEECHD_ADDRESS=f"unix_socket:{self.folder / 'speechd.sock'}",
+            GSETTINGS_BACKEND="memory", PYTHONUNBUFFERED="1")
+        self._start_dispatcher()
+        self._start_orca()
+
+    def _start_dispatcher(self):
+        configuration = self.folder / "speech-dispatcher"
+        configuration.mkdir()
+        (configuration / "speechd.conf").write_text(
+            CONFIGURATION.format(voice=HERE / "voice.py"))
+        self.desktop._start(["speech-dispatcher", "-s", "-c", "unix_socket", "-t", "0",
+                             "-S", str(self.folder / "speechd.sock"), "-C", str(configuration),
+                             "-L", str(self.folder), "-P", str(self.folder / "speechd.pid")])
+
+    def _start_orca(self):
+        self.desktop._start([sys.executable, str(HERE / "orca_reader.py"),
+                             str(self.errors_file)])
+        self.waits_to_hear("Screen reader on")
+
+    def said(self):
+        """What was said since it was last forgotten; what was cut off at once is left out."""
+        said = []
+        for line in self.voice_file.read_text(encoding="utf-8").splitlines()[self.forgotten:]:
+            entry = json.loads(line)
+            if entry["kind"] == "begins":
+                said.append(entry["text"].strip())
+            elif entry["kind"] == "is cut off" and said:
+                said.pop()
+        return said
+
+    def forget(self):
+        self.forgotten = len(self.voice_file.read_text(encoding="utf-8").splitlines())
+
+    def waits_to_hear(self, *patterns):
+        """The patterns one after the other in what is said; all that came before is forgotten."""
+        deadline = time.monotonic() + PATIENCE_SECONDS
+        pattern = ".*".join(patterns)
+        while not re.search(pattern, " ".join(self.said())):
+            if time.monotonic() > deadline:
+                raise AssertionError(f"waited in vain to hear {pattern!r}; heard {self.said()}")
+            time.sleep(0.02)
+
+    def errors(self):
+        """What Orca could not deal with."""
+        return self.errors_file.read_text(encoding="utf-8") if self.errors_file.exists() else ""
