@@ -44,20 +44,30 @@ def resident_megabytes(process):
     raise ValueError("no resident size")
 
 
+def processor_milliseconds(process):
+    return int(Path(f"/proc/{process.pid}/schedstat").read_text().split()[0]) / 1e6
+
+
 def cpu_ticks(process):
     fields = Path(f"/proc/{process.pid}/stat").read_text().rsplit(")", 1)[1].split()
     return int(fields[11]) + int(fields[12])
 
 
-def measure(desktop, program):
-    seconds, megabytes = [], []
+def measure(desktop, *programs):
+    """For each program the medians of its seconds, processor's milliseconds and megabytes.
+
+    The programs take turns, so that what else the machine does weighs on all of them.
+    """
+    results = [([], [], []) for _ in programs]
     for _ in range(RUNS):
-        process, mapped_after = start(desktop, program)
-        time.sleep(0.5)
-        seconds.append(mapped_after)
-        megabytes.append(resident_megabytes(process))
-        stop(desktop, process)
-    return statistics.median(seconds), statistics.median(megabytes)
+        for program, (seconds, milliseconds, megabytes) in zip(programs, results):
+            process, mapped_after = start(desktop, program)
+            time.sleep(0.5)
+            seconds.append(mapped_after)
+            milliseconds.append(processor_milliseconds(process))
+            megabytes.append(resident_megabytes(process))
+            stop(desktop, process)
+    return [tuple(map(statistics.median, result)) for result in results]
 
 
 def idle_ticks(desktop, program):
@@ -71,17 +81,16 @@ def idle_ticks(desktop, program):
 
 
 def main():
-    program, empty_window = map(Path, sys.argv[1:3])
+    program, empty_window = (Path(name).resolve() for name in sys.argv[1:3])
     with Desktop() as desktop, tempfile.TemporaryDirectory() as folder:
         desktop.environment.pop("QT_LINUX_ACCESSIBILITY_ALWAYS_ON")
         copy = copy_of_program(program.parent, folder) / program.name
-        floor_seconds, floor_megabytes = measure(desktop, empty_window)
-        seconds, megabytes = measure(desktop, copy)
+        floor, game = measure(desktop, empty_window, copy)
         ticks = idle_ticks(desktop, copy)
-    print(f"mapped after   {seconds * 1000:6.1f} ms   empty window {floor_seconds * 1000:6.1f} ms"
-          f"   ratio {seconds / floor_seconds:.2f}")
-    print(f"resident       {megabytes:6.1f} MB   empty window {floor_megabytes:6.1f} MB"
-          f"   ratio {megabytes / floor_megabytes:.2f}")
+    for what, factor, unit, at_floor, at_game in zip(
+            ("mapped after", "processor", "resident"), (1000, 1, 1), ("ms", "ms", "MB"), floor, game):
+        print(f"{what:13} {at_game * factor:6.1f} {unit}   empty window {at_floor * factor:6.1f} {unit}"
+              f"   ratio {at_game / at_floor:.2f}")
     print(f"CPU ticks (1/{TICKS_PER_SECOND} s) in {IDLE_SECONDS} idle seconds: {ticks}")
 
 
