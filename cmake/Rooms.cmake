@@ -18,13 +18,13 @@ function(add_room name)
   add_library(gallopade_${name} STATIC ${ARGN})
   target_include_directories(gallopade_${name} PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(gallopade_${name} PRIVATE gallopade_warnings gallopade_hardening)
-  # Rooms with the toolkit get its own -fPIC after it.
+  # Rooms with Qt get its own -fPIC after it.
   if(GALLOPADE_HARDENING)
     target_compile_options(gallopade_${name} PRIVATE -fPIE)
   endif()
 endfunction()
 
-# The headers of the toolkit and of GoogleTest, compiled once for all programs of tests with windows.
+# The headers of Qt and of GoogleTest, compiled once for all programs of tests with windows.
 function(share_window_test_headers)
   if(NOT GALLOPADE_PCH)
     return()

@@ -9,7 +9,7 @@
 
 namespace {
 
-// Asked of the system itself: to the toolkit a file that cannot be looked at just now is not there,
+// Asked of the system itself: to Qt a file that cannot be looked at just now is not there,
 // and who takes it for missing writes a new one over it.
 bool Look(const QByteArray& path, struct stat& status) {
   return Persist([&] { return stat(path.constData(), &status); }) == 0;

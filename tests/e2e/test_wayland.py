@@ -17,7 +17,7 @@ PLUGINS = Path("/usr/lib")
 GAME = "^Gallopade Nova($|:| -)"
 HELP = "^Gallopade Nova Help$"
 STORED = "[Settings]\nLeft=1234\nTop=567\nState=2\n[Replay]\nAdvancement=1\n"
-# Of the title bar that the toolkit draws for a maximised window, below the compositor's panel.
+# Of the title bar that Qt draws for a maximised window, below the compositor's panel.
 MINIMISE_BUTTON = (SCREEN[0] - 58, 44)
 RESTING_SECONDS = 1.6
 

@@ -27,5 +27,5 @@ TEST_F(AFileWhoseNameIsNoText, IsWrittenAndRead) {
   EXPECT_EQ(WriteFile(path, "new"), std::nullopt);
   EXPECT_EQ(access(BytesOfPath(path).constData(), F_OK), 0);
   EXPECT_EQ(ReadFile(path, 100).bytes, "new");
-  EXPECT_EQ(unlink(BytesOfPath(path).constData()), 0);  // the toolkit cannot name it
+  EXPECT_EQ(unlink(BytesOfPath(path).constData()), 0);  // Qt cannot name it
 }

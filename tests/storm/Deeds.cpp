@@ -20,7 +20,7 @@ void ChooseEntry(Stage& stage, const char* name) {
   stage.Choose(name);
 }
 
-// Comes from the keyboard through the toolkit, which knows what a dialog keeps away.
+// Comes from the keyboard through Qt, which knows what a dialog keeps away.
 void Press(Stage& stage, const QKeySequence& keys) {
   const QKeyCombination key = keys[0];
   QTest::keyClick(WindowWithInput(stage).windowHandle(), key.key(), key.keyboardModifiers());

@@ -136,7 +136,7 @@ QByteArray JpegWithComments(int comments) {
 QByteArray PngWithTexts(int texts) {
   QByteArray bytes = Encoded("PNG");
   constexpr qsizetype afterHeader = 8 + 25;
-  // The toolkit puts the length before what it has compressed.
+  // Qt puts the length before what it has compressed.
   const QByteArray text = qCompress(QByteArray(1 << 20, 'x'), 9).mid(4);
   QByteArray flood;
   for (int i = 0; i < texts; ++i) {

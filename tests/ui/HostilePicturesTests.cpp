@@ -106,7 +106,7 @@ TEST_F(HostilePictures, ShareOneBudgetOfMemory) {
 }
 
 TEST_F(HostilePictures, AreMeasuredByWhatADecoderPaintsOn) {
-  // The toolkit believes so small a picture more than so large a screen, until it decodes it.
+  // Qt believes so small a picture more than so large a screen, until it decodes it.
   const QSize screen(4000, 4000);
   const PictureBudget budget{.bytes = BytesOf(screen), .processorTime = Plenty};
   EXPECT_TRUE(Load(EmptyGif(screen), budget).isNull());

@@ -28,7 +28,7 @@ QByteArray Encoded(const char* format) {
   return bytes;
 }
 
-// The toolkit reads these without being able to write them.
+// Qt reads these without being able to write them.
 QByteArray Gif(quint16 width, quint16 height) {
   QByteArray bytes("GIF89a");
   QDataStream out(&bytes, QIODevice::Append);

@@ -1,4 +1,4 @@
-// Counts what is asked of the heap, by the toolkit as well, at a redraw of a search that is
+// Counts what is asked of the heap, by Qt as well, at a redraw of a search that is
 // not painted; in a program of its own, since the count is everybody's.
 
 #include <QApplication>

@@ -39,7 +39,7 @@ QPalette AllOf(const QColor& color) {
 }  // namespace
 
 TEST(SystemColors, KeepTheFiveStatesApartOnTheUsualDesktops) {
-  ExpectStatesApart(QApplication::palette(), "the toolkit's own");
+  ExpectStatesApart(QApplication::palette(), "Qt's own");
   ExpectStatesApart(QPalette(QColor(0xEF, 0xEF, 0xEF)), "light");
   ExpectStatesApart(QPalette(QColor(0x35, 0x35, 0x35)), "dark");
   ExpectStatesApart(QPalette(Qt::black), "black");

@@ -7,7 +7,7 @@
 
 namespace {
 
-// Of several buttons with one letter the toolkit chooses by itself.
+// Of several buttons with one letter Qt chooses by itself.
 bool IsLetterOf(const QAbstractButton& button, const QEvent& event) {
   if (event.type() != QEvent::Shortcut) return false;
   const auto& shortcut = static_cast<const QShortcutEvent&>(event);

@@ -31,7 +31,7 @@ QString WidestDate() {
 
 FileDialog::FileDialog(QWidget& mainWindow, const QString& title, const FileQuestion& question)
     : QFileDialog(DialogParent(mainWindow), title, AsDirectory(question.directory),
-                  ToolkitNameFilters(question.filter)) {
+                  QtNameFilters(question.filter)) {
   setIconProvider(&icons_);
   setOption(QFileDialog::HideNameFilterDetails);
 }

@@ -18,7 +18,7 @@ QString ChooseFileToSave(QWidget& mainWindow, const FileQuestion& question) {
   return dialog.exec() == QDialog::Accepted ? dialog.Chosen() : QString();
 }
 
-QString ToolkitNameFilters(const QString& filter) {
+QString QtNameFilters(const QString& filter) {
   const QStringList parts = filter.split('|');
   QStringList filters;
   for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {

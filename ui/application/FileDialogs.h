@@ -21,7 +21,7 @@ QString ChooseFileToSave(QWidget& mainWindow, const FileQuestion& question);
 
 // "Games (*.a;*.b)|*.a;*.b" becomes "Games (*.a;*.b) (*.a *.b)": the dialog hides the last brackets
 // and shows the text as it is worded. "*.*" means every file, with or without a dot.
-QString ToolkitNameFilters(const QString& filter);
+QString QtNameFilters(const QString& filter);
 
 // The icons and kinds that a file dialog shows. Qt's own look into every file of a folder, and wait
 // for ever where one of them never gives an answer; these go by the names alone.

@@ -21,7 +21,7 @@ QWidget* WidgetOf(const QWindow* window) {
   return nullptr;
 }
 
-// The toolkit overlooks which window gets the keyboard while a popup is open, as the list of
+// Qt overlooks which window gets the keyboard while a popup is open, as the list of
 // completions is when a dialog closes under it: then no widget has the keyboard that the window
 // has.
 void CatchUpWithKeyboard() {

@@ -16,7 +16,7 @@ class AccessibleBoard : public QAccessibleWidget, public QAccessibleTableInterfa
   explicit AccessibleBoard(BoardView& view);
   ~AccessibleBoard() override;
 
-  // Makes the toolkit ask for such an interface for every BoardView; once per program.
+  // Makes Qt ask for such an interface for every BoardView; once per program.
   static void Install();
   static AccessibleBoard& Of(BoardView& view);
   // Leads the screen reader to what the sentence is about, and has it read.

@@ -16,7 +16,7 @@ void BoardAnnouncer::EndCommand() {
   Tell();
 }
 
-// Later: a screen reader forgets what comes before the toolkit's own word about the focus.
+// Later: a screen reader forgets what comes before Qt's own word about the focus.
 void BoardAnnouncer::FocusIn() {
   news_.ComeBack();
   afterFocus_.start(0);

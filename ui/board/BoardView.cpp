@@ -137,7 +137,7 @@ void BoardView::PaintCells(QPainter& painter, const QRegion& region) {
     const auto x = static_cast<std::size_t>(ColumnOf(index));
     const auto y = static_cast<std::size_t>(RowOf(index));
     const QRect square(edges[x], edges[y], edges[x + 1] - edges[x], edges[y + 1] - edges[y]);
-    // Inside one rectangle the toolkit copies a picture at once, and otherwise line by line.
+    // Inside one rectangle Qt copies a picture at once, and otherwise line by line.
     painter.setClipRect(square);
     painter.drawPixmap(square.topLeft(),
                        cellPainter_.PixmapFor(cell, cell.backColor.value_or(backgroundColor_),

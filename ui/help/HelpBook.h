@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 #include <QUrl>
 
-// The help file, open for reading. The collection that the toolkit wants to write beside it lies in
+// The help file, open for reading. The collection that Qt wants to write beside it lies in
 // a private temporary directory, so the program directory may be read-only.
 class HelpBook {
  public:

@@ -22,7 +22,7 @@ constexpr Signature Signatures[] = {
     {QByteArrayView("\0\0\2\0", 4), "cur"},
 };
 
-// The toolkit reads more, but not all of it is safe to read from a stranger's file.
+// Qt reads more, but not all of it is safe to read from a stranger's file.
 constexpr const char* Suffixes[] = {"bmp", "dib", "jpeg", "jpg", "gif", "ico", "cur", "png"};
 
 QByteArray FormatOf(const QByteArray& file, const QByteArray& suffix) {

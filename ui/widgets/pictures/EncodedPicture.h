@@ -6,7 +6,7 @@
 // A picture as its file holds it, without what files carry beside it: texts, profiles and previews
 // are left out, since a small file may hold a flood of them and nothing of it is seen.
 struct EncodedPicture {
-  QByteArray format;  // as the toolkit calls it; empty for what the program does not read
+  QByteArray format;  // as Qt calls it; empty for what the program does not read
   QByteArray bytes;
   int bytesPerPixel = 4;  // that a decoder takes at the most, the picture itself included
   int passes = 1;         // that a decoder makes over all of its pixels at the most

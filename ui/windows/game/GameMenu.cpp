@@ -127,7 +127,7 @@ class MenuBuilder {
     // As every close, it is remembered while work is going on.
     if (reachable && command == mnuFileExit_Click) return command(window.Context());
     const bool done = reachable && window.Perform([&] { command(window.Context()); });
-    if (!done && action.isCheckable()) action.toggle();  // back: the toolkit has toggled it already
+    if (!done && action.isCheckable()) action.toggle();  // back: Qt has toggled it already
   }
 
   frmGame& window_;

@@ -24,7 +24,7 @@ namespace {
 
 constexpr QLatin1StringView ReadingMark(".gallopade-reading");
 constexpr int CloseRetryMilliseconds = 100;
-// Every dialog draws its icons anew, and the toolkit would keep ten megabytes of them.
+// Every dialog draws its icons anew, and Qt would keep ten megabytes of them.
 constexpr int PixmapCacheKilobytes = 1024;
 
 }  // namespace

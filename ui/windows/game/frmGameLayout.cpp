@@ -173,7 +173,7 @@ void frmGame::changeEvent(QEvent* event) {
 }
 
 // The clock rests while the window cannot be seen. On Wayland whether it can is only found out by
-// painting, and painting also brings a title bar up to date that the toolkit draws itself.
+// painting, and painting also brings a title bar up to date that Qt draws itself.
 void frmGame::TickInSight() {
   if (!CanBeSeen()) return;
   game_.tmrTime_Timer();
@@ -215,7 +215,7 @@ bool frmGame::HasGivenShape() const {
   return tiled_ || isMaximized() || isFullScreen();
 }
 
-// The toolkit says nothing of tiles. But nobody makes a window larger by hand as soon as he sees
+// Qt says nothing of tiles. But nobody makes a window larger by hand as soon as he sees
 // it, and a window that is to fit into the screen is only made smaller.
 void frmGame::FindOutWhetherTiled() {
   if (WindowsHavePlaces()) return;

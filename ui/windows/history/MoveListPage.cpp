@@ -48,7 +48,7 @@ std::vector<Line> PageLines(const QStringList& lines, const QString& version) {
   return page;
 }
 
-// Writes lines from the top of the page down. Columns are drawn at their places: the toolkit's own
+// Writes lines from the top of the page down. Columns are drawn at their places: Qt's own
 // tab stops are wrong at a printer's resolution.
 class PagePainter {
  public:
