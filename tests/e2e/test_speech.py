@@ -117,7 +117,7 @@ class Windows(SpeechTest):
         self.press("l")
         self.hears("Solve", "Start push button")
         self.press("shift+Tab")
-        self.hears("Refresh every 1000 moves")
+        self.hears("Refresh", "every 1000 moves")
         self.press("Next")
         self.hears("every 2000 moves")
         self.press("alt+s")

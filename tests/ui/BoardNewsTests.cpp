@@ -113,7 +113,7 @@ TEST_F(BoardNewsTest, SaysTheCountAgainWhenAMoveIsTakenBackAtOnce) {
   window.onEndGame = [this](const GameOverReport&) { TakeBack(); };
   PlaySquares(game, Games::DeadEndAfter20.substr(0, Games::DeadEndAfter20.size() - 3));
   Heard();
-  EXPECT_EQ(HeardAfterPress("A1"), "C2: 19 visited, reaches A1, E3");
+  EXPECT_EQ(HeardAfterPress("A1"), "C2: 19 visited, reaches A1, A3, B4, D4");
 }
 
 TEST_F(BoardNewsTest, SaysThatThereIsNothingToUndo) {

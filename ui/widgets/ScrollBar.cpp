@@ -1,22 +1,9 @@
 #include "ui/widgets/ScrollBar.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QPainter>
 
-#include "ui/widgets/AccessibleScrollBar.h"
-
-namespace {
-
-QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
-  auto* bar = dynamic_cast<ScrollBar*>(object);
-  return bar == nullptr ? nullptr : new AccessibleScrollBar(*bar);
-}
-
-}  // namespace
-
 ScrollBar::ScrollBar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
-  QAccessible::installFactory(MakeAccessible);
   setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -41,6 +28,7 @@ void ScrollBar::keyPressEvent(QKeyEvent* event) {
 void ScrollBar::focusInEvent(QFocusEvent* event) {
   QScrollBar::focusInEvent(event);
   update();
+  emit Entered();
 }
 
 void ScrollBar::focusOutEvent(QFocusEvent* event) {

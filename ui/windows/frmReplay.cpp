@@ -115,6 +115,8 @@ QGroupBox* frmReplay::AddAdvanceFrame() {
   hsclSpeedSeekSet_->setObjectName("hsclSpeedSeekSet");
   hsclSpeedSeekSet_->setRange(1, SquareCount);
   connect(hsclSpeedSeekSet_, &ScrollBar::valueChanged, this, &frmReplay::hsclSpeedSeekSet_Change);
+  // Later, after the bar's own name.
+  connect(hsclSpeedSeekSet_, &ScrollBar::Entered, this, &frmReplay::TellBar, Qt::QueuedConnection);
   auto* layout = new QGridLayout(frame);
   layout->addWidget(optAdvance_[Automatic], 0, 0, 1, 2);
   layout->addWidget(optAdvance_[Manual], 1, 0, 1, 2);
@@ -194,9 +196,13 @@ QString frmReplay::Spoken(int move) const {
          end;
 }
 
-// The bar that seeks is read by itself when it has the keyboard.
+// A screen reader knows only the number.
+void frmReplay::TellBar() {
+  const int value = hsclSpeedSeekSet_->value();
+  announcer_.Say(IsAutomatic() ? SpokenSpeed(value) : Spoken(value));
+}
+
 void frmReplay::TellPosition(bool finished) {
-  if (!IsAutomatic() && hsclSpeedSeekSet_->hasFocus()) return;
   if (finished) {
     announcer_.Say(Spoken(ReplayPosition()));
   } else {
@@ -232,10 +238,9 @@ void frmReplay::hsclSpeedSeekSet_Change() {
   const int value = hsclSpeedSeekSet_->value();
   if (IsAutomatic()) {
     lblSpeedSeekValue_->ShowValue(value, AsSeconds);
-    hsclSpeedSeekSet_->SetSpokenValue(SpokenSpeed(value));
+    if (hsclSpeedSeekSet_->hasFocus()) TellBar();
     tmrAdvance_->setInterval(value * MillisecondsOfTenth);
   } else {
-    hsclSpeedSeekSet_->SetSpokenValue(Spoken(value));
     DoUpdateReplay(value - ReplayPosition());
   }
 }
@@ -246,7 +251,6 @@ void frmReplay::SetBar(int maximum, int value, int largeStep) {
   hsclSpeedSeekSet_->setMaximum(maximum);
   hsclSpeedSeekSet_->setPageStep(largeStep);
   hsclSpeedSeekSet_->setValue(value);
-  if (!IsAutomatic()) hsclSpeedSeekSet_->SetSpokenValue(Spoken(value));
 }
 
 void frmReplay::optAdvance_Click() {

@@ -75,6 +75,7 @@ class frmReplay : public QDialog {
   QString Spoken(int move) const;
   void TellPosition(bool finished);
   void OfferButtons(bool finished);
+  void TellBar();
   void SetBar(int maximum, int value, int largeStep);
   void BeginAutomatic();
   void BeginManual();

@@ -69,6 +69,9 @@ QGroupBox* frmSolve::AddRefreshFrame() {
   lblRefreshRate_ = AddValueLabel(context_.pace, frame, "lblRefreshRate", "Every 32000 Moves");
   connect(hsclRefreshRateValue_, &ScrollBar::valueChanged, this,
           &frmSolve::hsclRefreshRateValue_Change);
+  // Later, after the bar's own name.
+  connect(hsclRefreshRateValue_, &ScrollBar::Entered, this, &frmSolve::TellBar,
+          Qt::QueuedConnection);
   hsclRefreshRateValue_Change();
   auto* layout = new QVBoxLayout(frame);
   layout->addWidget(hsclRefreshRateValue_);
@@ -100,7 +103,12 @@ void frmSolve::hsclRefreshRateValue_Change() {
   const int rate = hsclRefreshRateValue_->value();
   context_.globals.settings.SolveRefreshRate = static_cast<std::int16_t>(rate);
   lblRefreshRate_->ShowValue(rate, AsRefresh);
-  hsclRefreshRateValue_->SetSpokenValue(AsRefresh(rate).toLower());
+  if (hsclRefreshRateValue_->hasFocus()) TellBar();
+}
+
+// A screen reader knows only the number.
+void frmSolve::TellBar() {
+  announcer_.Say(lblRefreshRate_->text().toLower());
 }
 
 void frmSolve::ShowProgress() {

@@ -47,6 +47,7 @@ class frmSolve : public QDialog, public SolveProgress {
 
   void ShowValues(std::int64_t tested);
   void OfferStop(bool stop);
+  void TellBar();
   void Search();
   bool FindTour();
   void EndSearch(bool solved);
