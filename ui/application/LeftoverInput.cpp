@@ -87,11 +87,11 @@ bool LeftoverInput::IsLeftoverKey(const QKeyEvent& event) {
 }
 
 // An X server repeats a key by a release and a press at one time. Qt marks them where it sees both
-// together, which it does not always.
+// together, which it does not always. A key that a screen reader has passed on has lost its time.
 bool LeftoverInput::IsRepeat(const QKeyEvent& event) const {
   const quint32 scanCode = event.nativeScanCode();
   return event.isAutoRepeat() || (scanCode != 0 && scanCode == keyRelease_.scanCode &&
-                                  event.timestamp() == keyRelease_.time);
+                                  event.timestamp() != 0 && event.timestamp() == keyRelease_.time);
 }
 
 void LeftoverInput::RememberRelease(const QKeyEvent& event) {
