@@ -24,7 +24,11 @@ void BoardAnnouncer::FocusIn() {
 
 void BoardAnnouncer::Tell() {
   if (!QAccessible::isActive() || commands_ > 0 || !view_.hasFocus()) return;
-  if (const auto sentence = news_.Take()) AccessibleBoard::Of(view_).LeadTo(*sentence);
+  if (const auto sentence = news_.Take()) {
+    AccessibleBoard::Of(view_).LeadTo(*sentence);
+    // Its square is described anew, though a move that was taken back may have left it as it was.
+    if (sentence->square != -1) descriptions_[static_cast<std::size_t>(sentence->square)] = {};
+  }
   DescribeSquares();
 }
 
