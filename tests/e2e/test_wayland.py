@@ -80,6 +80,11 @@ class Wayland(unittest.TestCase):
         READER.wait_for(lambda: time.monotonic() - begin > RESTING_SECONDS, "time to pass")
         return self.caption() == before
 
+    def rests_when_minimised(self):
+        """A click on the desktop, where the window was, does nothing."""
+        DESKTOP.click(*MINIMISE_BUTTON)
+        return self.clock_rests()
+
     def ended(self):
         return self.process.poll() is not None
 
@@ -99,8 +104,7 @@ class Wayland(unittest.TestCase):
         self.start()
         self.play()
         self.assertFalse(self.clock_rests())
-        DESKTOP.click(*MINIMISE_BUTTON)
-        READER.wait_for(self.clock_rests, "the clock to rest")
+        READER.wait_for(self.rests_when_minimised, "the clock to rest")
         DESKTOP.run("xdotool", "keydown", "super", "key", "Tab", "keyup", "super")
         READER.wait_for(lambda: not self.clock_rests(), "the clock to go on")
 
