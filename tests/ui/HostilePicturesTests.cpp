@@ -92,6 +92,27 @@ TEST_F(HostilePictures, AreReadOnceHoweverOftenTheyAreNamed) {
   for (const QImage& image : images) EXPECT_EQ(image.constBits(), images.front().constBits());
 }
 
+TEST_F(HostilePictures, AreChargedOnceHoweverOftenTheyAreNamed) {
+  const QSize size(1024, 1024);
+  const QString name = Put("1.gif", EmptyGif(size));
+  const QString other = Put("2.gif", EmptyGif(size));
+  PictureReader reader = Reader({.bytes = 3 * BytesOf(size) + 65536, .processorTime = Plenty});
+  EXPECT_FALSE(reader.Read({name, name, name, other}).back().isNull());
+}
+
+TEST_F(HostilePictures, AreChargedForColorsOfSixteenBits) {
+  const QSize size(256, 256);
+  const PictureBudget budget{.bytes = BytesOf(size) + 65536, .processorTime = Plenty};
+  for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_RGBX64}) {
+    QImage plain(size, format);
+    plain.fill(Qt::black);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(plain.save(&buffer, "PNG"));
+    EXPECT_EQ(Load(buffer.data(), budget).isNull(), format == QImage::Format_RGBX64);
+  }
+}
+
 TEST_F(HostilePictures, ShareOneBudgetOfMemory) {
   PictureReader reader = Reader(Patient);
   const QString first = Put("1.gif", EmptyGif(Largest));

@@ -39,9 +39,9 @@ QImage Decode(const EncodedPicture& picture, const PictureBudget& left) {
   return bytes.IsStopped() || IsTooLarge(image.size()) ? QImage() : image;
 }
 
-// Only ordinary files, which say how large they are: others may never come to an end.
+// A file that does not say how large it is may never come to an end.
 QImage ReadFrom(const QFileInfo& file, const QByteArray& suffix, const PictureBudget& left) {
-  if (!file.isFile() || file.size() == 0 || file.size() > MaximumPictureBytes) return {};
+  if (file.size() == 0 || file.size() > MaximumPictureBytes) return {};
   if (left.processorTime <= 0) return {};
   const FileContent content = ReadFile(file.filePath(), file.size());
   return Decode(EncodedPictureIn(content.bytes, suffix), left);
