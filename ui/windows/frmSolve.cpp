@@ -108,7 +108,7 @@ void frmSolve::hsclRefreshRateValue_Change() {
 
 // A screen reader knows only the number.
 void frmSolve::TellBar() {
-  announcer_.Say(lblRefreshRate_->text().toLower());
+  announcer_.Say(lblRefreshRate_->Text().toLower());
 }
 
 void frmSolve::ShowProgress() {
