@@ -16,7 +16,8 @@ ROOT = Path(__file__).resolve().parents[2]
 # Where, what it says, what it says for once, and the room whose tests must notice.
 MUTATIONS = (
     ("core/Moves.cpp", "GoodGame = 33", "GoodGame = 34", "core"),
-    ("core/Moves.cpp", "state_.MoveCount >= 1", "state_.MoveCount >= 2", "core"),
+    ("core/Moves.cpp", "state_.MoveCount == 0 ? MenuChange", "state_.MoveCount == 1 ? MenuChange",
+     "core"),
     ("core/Moves.cpp", "if (state_.ApplyingMoves) return;\n  window_.EnableClock(true);",
      "window_.EnableClock(true);", "core"),
     ("core/Moves.cpp", "free = state_.Cell(x, y) == GameState::Unvisited", "free = true", "core"),
@@ -24,8 +25,8 @@ MUTATIONS = (
     ("core/UndoRedo.cpp", "i = state_.MoveCount; i <", "i = state_.MoveCount + 1; i <", "core"),
     ("core/UndoRedo.cpp", "if (!playerPickedFirstSquare) return;", "", "core"),
     ("core/UndoRedo.cpp", "state_.MoveCount == 2", "state_.MoveCount == 3", "core"),
-    ("core/Clock.cpp", "(halfSeconds % 2) * 5", "(halfSeconds % 2)", "core"),
-    ("core/Clock.cpp", "== 1 ? 0 : 1", "== 1 ? 1 : 0", "core"),
+    ("core/TimeString.cpp", "(halfSeconds % 2) * 5", "(halfSeconds % 2)", "core"),
+    ("core/Clock.cpp", "PlayersChoice ? 0 : 1", "PlayersChoice ? 1 : 0", "core"),
     ("core/GameFlow.cpp", "state_.MoveCount > 1 ||", "state_.MoveCount > 0 ||", "core"),
     ("core/GameFlow.cpp", "if (state_.ApplyingMoves) return;\n  ClearRedo();", "ClearRedo();",
      "core"),
