@@ -166,9 +166,15 @@ void Backtracking(Stage& stage) {
 
 // --- the replay ---
 
+// Just after a tick, so that the next one does not come in the middle of what is tried.
+void AfterTheSixthTick(Stage& stage) {
+  if (stage.Window().State().MoveCount > 6) return stage.Moment();
+  stage.After(5, [&stage] { AfterTheSixthTick(stage); });
+}
+
 void ReplayAdvancing(Stage& stage) {
   OpenFortyMoves(stage);
-  stage.Next([&stage](Window&) { stage.After(3200, [&stage] { stage.Moment(); }); });
+  stage.Next([&stage](Window&) { AfterTheSixthTick(stage); });
   stage.Choose("mnuViewReplay");
 }
 
