@@ -25,4 +25,6 @@ struct BoardLook {
   bool UseBorders = false;
   Positioning ImagePositioning = Positioning::Stretched;
   Highlighting HighlightingMethod = Highlighting::ValidMovesOnly;
+
+  friend bool operator==(const BoardLook&, const BoardLook&) = default;
 };

@@ -1,4 +1,5 @@
 #include <bit>
+#include <random>
 
 #include <gtest/gtest.h>
 
@@ -29,6 +30,75 @@ class Board : public testing::Test {
   GameState state;
   BoardLook look;
   BoardModel model;
+};
+
+// Two boards of one game, one of which looks at all of its cells at every refresh.
+class AnyGame {
+ public:
+  AnyGame() { model_.SetCellSide(CellSide); }
+
+  void ChangeSomething() {
+    state_.Cell(Below(BoardSide), Below(BoardSide)) =
+        Below(2) == 0 ? GameState::Visited : GameState::Unvisited;
+    switch (Below(5)) {
+      case 0:
+        state_.KnightX = static_cast<std::int16_t>(Below(BoardSide));
+        break;
+      case 1:
+        state_.KnightY = static_cast<std::int16_t>(Below(BoardSide));
+        break;
+      case 2:
+        state_.FirstMoveMade = !state_.FirstMoveMade;
+        break;
+      case 3:
+        HighlightSomething();
+        break;
+      default:
+        ChangeTheLook();
+    }
+  }
+
+  void Refresh() {
+    thorough_.SetCellSide(CellSide);
+    thorough_.RestoreColors(state_, look_, -1, -1);
+    model_.RestoreColors(state_, look_, -1, -1);
+  }
+
+  void ExpectOnePicture() const {
+    for (int i = 0; i < SquareCount; ++i) ASSERT_EQ(model_.Cell(i), thorough_.Cell(i)) << i;
+  }
+
+ private:
+  static constexpr double CellSide = 900;
+
+  int Below(int bound) { return static_cast<int>(random_() % static_cast<unsigned>(bound)); }
+
+  void HighlightSomething() {
+    const int square = Below(SquareCount);
+    const bool forced = Below(2) == 0;
+    for (BoardModel* board : {&model_, &thorough_}) {
+      board->HighlightSquare(state_, look_, square, forced);
+    }
+  }
+
+  // Now and then two looks have the same colour.
+  void ChangeTheLook() {
+    look_.LightColor = Below(3);
+    look_.KnightColor = Below(3);
+    look_.UseImages = Below(3) != 0;
+    look_.UseBorders = Below(2) == 0;
+    look_.ImagePositioning = static_cast<Positioning>(Below(3));
+    const PictureSize size{300.0 + Below(2), 400};
+    for (BoardModel* board : {&model_, &thorough_}) {
+      board->SetPictureSize(SquarePicture::Knight, size);
+    }
+  }
+
+  std::mt19937 random_{640};
+  GameState state_;
+  BoardLook look_;
+  BoardModel model_;
+  BoardModel thorough_;
 };
 
 }  // namespace
@@ -202,4 +272,13 @@ TEST_F(Board, StretchesAPictureOverItsCell) {
   EXPECT_DOUBLE_EQ(model.Cell(3).imageLeft, 0);
   EXPECT_DOUBLE_EQ(model.Cell(3).imageWidth, 1200);
   EXPECT_DOUBLE_EQ(model.Cell(3).imageHeight, 1200);
+}
+
+TEST(AnyBoard, LooksAfterARefreshAsIfItHadLookedAtEveryCell) {
+  AnyGame game;
+  for (int refresh = 0; refresh < 5'000; ++refresh) {
+    game.ChangeSomething();
+    game.Refresh();
+    ASSERT_NO_FATAL_FAILURE(game.ExpectOnePicture()) << refresh;
+  }
 }

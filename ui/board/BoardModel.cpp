@@ -1,5 +1,6 @@
 #include "ui/board/BoardModel.h"
 
+#include <bit>
 #include <cmath>
 #include <utility>
 
@@ -7,8 +8,29 @@ namespace {
 
 constexpr double CentringToleranceTwips = 0.5;
 
-constexpr bool IsLightSquare(int x, int y) {
-  return (x + y) % 2 == 1;
+constexpr BoardModel::CellSet AllCells = ~BoardModel::CellSet{0};
+
+constexpr bool IsLightSquare(int index) {
+  return (ColumnOf(index) + RowOf(index)) % 2 == 1;
+}
+
+constexpr BoardModel::CellSet OneCell(int index) {
+  return BoardModel::CellSet{1} << index;
+}
+
+constexpr bool Has(BoardModel::CellSet cells, int index) {
+  return (cells & OneCell(index)) != 0;
+}
+
+BoardModel::CellSet VisitedCells(const GameState& state) {
+  BoardModel::CellSet visited = 0;
+  for (int x = 0; x < BoardSide; ++x) {
+    for (int y = 0; y < BoardSide; ++y) {
+      const bool isVisited = state.Cell(x, y) != GameState::Unvisited;
+      visited |= BoardModel::CellSet{isVisited} << SquareIndex(x, y);
+    }
+  }
+  return visited;
 }
 
 }  // namespace
@@ -18,7 +40,8 @@ void BoardModel::Write(int index, Property BoardCell::*property, Value value) {
   BoardCell& cell = cells_[static_cast<std::size_t>(index)];
   if (cell.*property == value) return;
   cell.*property = value;
-  changes_ |= CellSet{1} << index;
+  changes_ |= OneCell(index);
+  touched_ |= OneCell(index);
 }
 
 // Colour and picture change together, and only when the colour does.
@@ -34,29 +57,45 @@ void BoardModel::RestoreColors(const GameState& state, const BoardLook& look, in
   lastRestoreX_ = x;
   lastRestoreY_ = y;
 
-  for (int row = 0; row < BoardSide; ++row) {
-    for (int column = 0; column < BoardSide; ++column) RestoreCell(state, look, column, row);
+  const Subject subject = SubjectOf(state, look);
+  const bool centred = look.UseImages && look.ImagePositioning == Positioning::Centred;
+  for (CellSet cells = CellsToRestore(subject); cells != 0; cells &= cells - 1) {
+    const int index = std::countr_zero(cells);
+    RestoreCell(index, subject);
+    if (centred) Centre(index);
   }
-  if (state.FirstMoveMade) {
-    GiveLook(SquareIndex(state.KnightX, state.KnightY), look, look.KnightColor,
-             SquarePicture::Knight);
-  }
-  if (look.UseImages && look.ImagePositioning == Positioning::Centred) ReCenterImages(look);
+  restored_ = subject;
+  touched_ = 0;
 }
 
-void BoardModel::RestoreCell(const GameState& state, const BoardLook& look, int x, int y) {
-  const int index = SquareIndex(x, y);
-  if (state.Cell(x, y) == GameState::Unvisited) {
-    if (IsLightSquare(x, y)) {
+BoardModel::Subject BoardModel::SubjectOf(const GameState& state, const BoardLook& look) {
+  return {VisitedCells(state), SquareIndex(state.KnightX, state.KnightY), state.FirstMoveMade,
+          look};
+}
+
+BoardModel::CellSet BoardModel::CellsToRestore(const Subject& subject) const {
+  if (subject.look != restored_.look) return AllCells;
+  return touched_ | (subject.visited ^ restored_.visited) | OneCell(subject.knight) |
+         OneCell(restored_.knight);
+}
+
+void BoardModel::RestoreCell(int index, const Subject& subject) {
+  const BoardLook& look = subject.look;
+  const bool isKnights = index == subject.knight;
+  if (!Has(subject.visited, index)) {
+    if (IsLightSquare(index)) {
       GiveLook(index, look, look.LightColor, SquarePicture::Light);
     } else {
       GiveLook(index, look, look.DarkColor, SquarePicture::Dark);
     }
-  } else if (x != state.KnightX || y != state.KnightY) {
+  } else if (!isKnights) {
     GiveLook(index, look, look.VisitedColor, SquarePicture::Visited);
   }
   Write(index, &BoardCell::border, look.UseBorders);
   RestoreImage(index, look);
+  if (isKnights && subject.firstMoveMade) {
+    GiveLook(index, look, look.KnightColor, SquarePicture::Knight);
+  }
 }
 
 void BoardModel::RestoreImage(int index, const BoardLook& look) {
@@ -130,7 +169,13 @@ void BoardModel::Stretch(int index) {
   Write(index, &BoardCell::imageWidth, cellSide_);
 }
 
+void BoardModel::SetCellSide(double side) {
+  cellSide_ = side;
+  touched_ = AllCells;
+}
+
 void BoardModel::SetPictureSize(SquarePicture picture, PictureSize size) {
+  touched_ = AllCells;
   pictureSizes_[static_cast<std::size_t>(picture)] = size;
 }
 

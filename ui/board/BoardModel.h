@@ -29,12 +29,17 @@ struct BoardCell {
   double imageTop = 0;
   double imageWidth = 0;
   double imageHeight = 0;
+
+  friend bool operator==(const BoardCell&, const BoardCell&) = default;
 };
 
 // The 64 cells of the board, brought into the look that the game asks for. A property is written
 // only when it differs from the value wanted, so that TakeChanges names just the cells that have to
 // be painted again. A square that shows the wanted colour already keeps its picture, whatever
 // picture that is: a change of pictures needs a repaint of the whole board.
+//
+// A refresh looks only at the cells that may have to change. A search refreshes the board a million
+// times a second, and then these are few.
 class BoardModel {
  public:
   // Bit i stands for cell i.
@@ -53,7 +58,7 @@ class BoardModel {
   void ReCenterImages(const BoardLook& look);
 
   // side: the inside of a cell, in twips. Takes effect with the next ReCenterImages.
-  void SetCellSide(double side) { cellSide_ = side; }
+  void SetCellSide(double side);
   void SetPictureSize(SquarePicture picture, PictureSize size);
 
   // The cells that changed since the last call.
@@ -61,10 +66,20 @@ class BoardModel {
   bool HasChanged() const { return changes_ != 0; }
 
  private:
+  // What the looks of the squares follow from, highlights left out.
+  struct Subject {
+    CellSet visited = 0;
+    int knight = 0;
+    bool firstMoveMade = false;
+    BoardLook look;
+  };
+
+  static Subject SubjectOf(const GameState& state, const BoardLook& look);
+  CellSet CellsToRestore(const Subject& subject) const;
   template <typename Property, typename Value>
   void Write(int index, Property BoardCell::*property, Value value);
   void GiveLook(int index, const BoardLook& look, Color color, SquarePicture picture);
-  void RestoreCell(const GameState& state, const BoardLook& look, int x, int y);
+  void RestoreCell(int index, const Subject& subject);
   void RestoreImage(int index, const BoardLook& look);
   void Highlight(int index, const BoardLook& look);
   void Centre(int index);
@@ -76,4 +91,6 @@ class BoardModel {
   int lastRestoreX_ = 0;
   int lastRestoreY_ = 0;
   CellSet changes_ = 0;
+  Subject restored_;               // of the last refresh
+  CellSet touched_ = ~CellSet{0};  // the cells that may have another look since then
 };
