@@ -28,6 +28,12 @@ MoveRow TourSearch::Move(int i) const {
   return {static_cast<std::int16_t>(ColumnOf(index)), static_cast<std::int16_t>(RowOf(index))};
 }
 
+int TourSearch::MovesStandingSince(std::int64_t entries) const {
+  const Level* level = level_;
+  while (level != start_ && level->entriesBefore >= entries) --level;
+  return static_cast<int>(level - levels_.data());
+}
+
 // A full list of moves ends the way, whatever is free around it.
 inline void TourSearch::Stand(Level* level, const Subtree& subtree) {
   level_ = level;

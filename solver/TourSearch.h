@@ -46,6 +46,8 @@ class TourSearch {
   int MoveCount() const { return static_cast<int>(level_ - levels_.data()); }
   // Some square was tried and left again.
   bool HasTakenBack() const { return entries_ > 1 + (level_ - start_); }
+  // How many of its moves the search had made when it had made so many entries.
+  int MovesStandingSince(std::int64_t entries) const;
   // The square of move number i below MoveCount; at MoveCount, the square that was tried there
   // last.
   MoveRow Move(int i) const;
