@@ -37,8 +37,9 @@ def wait_for(condition, what, seconds=PATIENCE_SECONDS):
 class Desktop:
     """Entered as a context; everything that it started ends with it."""
 
-    def __init__(self, screen="1280x800x24", window_manager=True):
+    def __init__(self, screen="1280x800x24", window_manager=True, x_server_options=()):
         self.screen = screen
+        self.x_server_options = x_server_options
         self.window_manager = window_manager
         self.processes = []
         self.folder = None
@@ -82,7 +83,8 @@ class Desktop:
     def _start_x_server(self):
         read_end, write_end = os.pipe()
         self._start(["Xvfb", "-displayfd", str(write_end), "-screen", "0", self.screen,
-                     "-nolisten", "tcp", "-noreset"], pass_fds=[write_end])
+                     "-nolisten", "tcp", "-noreset", *self.x_server_options],
+                    pass_fds=[write_end])
         os.close(write_end)
         with os.fdopen(read_end) as number:
             return ":" + number.readline().strip()
