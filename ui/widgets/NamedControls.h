@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QPushButton>
 
 class QGroupBox;
 class QLabel;
@@ -16,6 +16,16 @@ QGroupBox* AddFrame(QWidget* parent, const char* name, const QString& caption);
 
 // Of a group of options the chosen one is the stop of the tab key.
 QRadioButton* AddOption(QWidget* parent, const QString& name, const QString& caption);
+
+// A click on it is the window's to handle.
+template <typename Window>
+QPushButton* AddButton(Window* window, const char* name, const QString& caption,
+                       void (Window::*handler)()) {
+  auto* button = new QPushButton(caption, window);
+  button->setObjectName(name);
+  QObject::connect(button, &QPushButton::clicked, window, handler);
+  return button;
+}
 
 // Shows its text as it stands, never as markup.
 QLabel* AddLabel(QWidget* parent, const char* name, const QString& text);

@@ -1,10 +1,10 @@
 #include "ui/windows/frmGameOver.h"
 
 #include <QLabel>
-#include <QPushButton>
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "ui/widgets/NamedControls.h"
 #include "ui/widgets/WindowPlacing.h"
 
 namespace {
@@ -23,25 +23,17 @@ QIcon Symbol(const QWidget& window) {
 }  // namespace
 
 frmGameOver::frmGameOver(const GameOverReport& report, QWidget* mainWindow)
-    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint) {
-  setObjectName("frmGameOver");
-  setWindowTitle("Game Over...");
-
-  auto* imgIcon = new QLabel(this);
-  imgIcon->setObjectName("imgIcon");
+    : SecondaryWindow(mainWindow, "frmGameOver", "Game Over...") {
+  QLabel* imgIcon = AddLabel(this, "imgIcon", QString());
   imgIcon->setPixmap(Symbol(*this).pixmap(QSize(IconSide, IconSide), devicePixelRatioF()));
-  auto* lblMessage = new QLabel(QString::fromStdString(report.message), this);
-  lblMessage->setObjectName("lblMessage");
-  lblMessage->setTextFormat(Qt::PlainText);
+  QLabel* lblMessage = AddLabel(this, "lblMessage", QString::fromStdString(report.message));
   lblMessage->setMinimumWidth(MessageWidth);
 
-  auto* cmdScoresReplay = new QPushButton(QString::fromStdString(report.buttonCaption), this);
-  cmdScoresReplay->setObjectName("cmdScoresReplay");
+  QPushButton* cmdScoresReplay =
+      AddButton(this, "cmdScoresReplay", QString::fromStdString(report.buttonCaption),
+                &frmGameOver::cmdScoresReplay_Click);
   cmdScoresReplay->setDefault(true);
-  connect(cmdScoresReplay, &QPushButton::clicked, this, &frmGameOver::cmdScoresReplay_Click);
-  auto* cmdUndo = new QPushButton("&Undo Last Move", this);
-  cmdUndo->setObjectName("cmdUndo");
-  connect(cmdUndo, &QPushButton::clicked, this, &frmGameOver::cmdUndo_Click);
+  QPushButton* cmdUndo = AddButton(this, "cmdUndo", "&Undo Last Move", &frmGameOver::cmdUndo_Click);
 
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(ButtonGap);
@@ -54,8 +46,7 @@ frmGameOver::frmGameOver(const GameOverReport& report, QWidget* mainWindow)
   iconAndMessage->setSpacing(Margin);
   iconAndMessage->addWidget(imgIcon, 0, Qt::AlignTop);
   iconAndMessage->addWidget(lblMessage, 1, Qt::AlignVCenter);
-  auto* layout = new QVBoxLayout(this);
-  layout->setSizeConstraint(QLayout::SetFixedSize);
+  QVBoxLayout* layout = AddColumn();
   layout->setContentsMargins(Margin, Margin, Margin, Margin);
   layout->setSpacing(Margin);
   layout->addLayout(iconAndMessage);

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QDialog>
-
 #include "core/GameWindow.h"
 #include "ui/commands/SecondaryWindows.h"
+#include "ui/widgets/SecondaryWindow.h"
 
 // Tells how the game ended. Whatever closes it stands for its main button; only the other button,
 // which takes the last move back, does not.
-class frmGameOver : public QDialog {
+class frmGameOver : public SecondaryWindow {
   Q_OBJECT
 
  public:

@@ -7,11 +7,11 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QTimer>
+#include <QVBoxLayout>
 
 #include "storage/NumberParser.h"
 #include "ui/widgets/DialogFitting.h"
@@ -39,21 +39,19 @@ QString SpokenSpeed(int tenths) {
 }  // namespace
 
 frmReplay::frmReplay(const CommandContext& context, QWidget* mainWindow)
-    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+    : SecondaryWindow(mainWindow, "frmReplay", "Replay"),
       context_(context),
       tmrAdvance_(new QTimer(this)),
       announcer_(TellingMilliseconds) {
-  setObjectName("frmReplay");
-  setWindowTitle("Replay");
   tmrAdvance_->setObjectName("tmrAdvance");
   connect(tmrAdvance_, &QTimer::timeout, this, &frmReplay::tmrAdvance_Timer);
-  auto* layout = new QVBoxLayout(this);
-  layout->setSizeConstraint(QLayout::SetFixedSize);
+  QVBoxLayout* layout = AddColumn();
   layout->addWidget(AddKnightFrame());
   QGroupBox* controls = AddControlsFrame();
   KeepInSight(*controls);
   layout->addWidget(controls);
   layout->addWidget(AddAdvanceFrame());
+  UseNoDefaultButton();
   cmdAdvancePause_->setFocus();
 }
 
@@ -78,10 +76,11 @@ QGroupBox* frmReplay::AddKnightFrame() {
 
 QGroupBox* frmReplay::AddControlsFrame() {
   QGroupBox* frame = AddFrame(this, "fraControls", " Controls:");
-  cmdRestart_ = AddButton("cmdRestart", "&Restart", &frmReplay::cmdRestart_Click);
-  cmdFinish_ = AddButton("cmdFinish", "&Finish", &frmReplay::cmdFinish_Click);
-  cmdAdvancePause_ = AddButton("cmdAdvancePause", "&Advance", &frmReplay::cmdAdvancePause_Click);
-  cmdClose_ = AddButton("cmdClose", "&Close", &frmReplay::cmdClose_Click);
+  cmdRestart_ = AddButton(this, "cmdRestart", "&Restart", &frmReplay::cmdRestart_Click);
+  cmdFinish_ = AddButton(this, "cmdFinish", "&Finish", &frmReplay::cmdFinish_Click);
+  cmdAdvancePause_ =
+      AddButton(this, "cmdAdvancePause", "&Advance", &frmReplay::cmdAdvancePause_Click);
+  cmdClose_ = AddButton(this, "cmdClose", "&Close", &frmReplay::cmdClose_Click);
   cmdRestart_->setEnabled(false);
   auto* layout = new QGridLayout(frame);
   layout->addWidget(cmdRestart_, 0, 0);
@@ -89,15 +88,6 @@ QGroupBox* frmReplay::AddControlsFrame() {
   layout->addWidget(cmdAdvancePause_, 1, 0);
   layout->addWidget(cmdClose_, 1, 1);
   return frame;
-}
-
-QPushButton* frmReplay::AddButton(const char* name, const char* caption,
-                                  void (frmReplay::*handler)()) {
-  auto* button = new QPushButton(caption, this);
-  button->setObjectName(name);
-  button->setAutoDefault(false);
-  connect(button, &QPushButton::clicked, this, handler);
-  return button;
 }
 
 QGroupBox* frmReplay::AddAdvanceFrame() {

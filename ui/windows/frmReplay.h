@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QDialog>
-
 #include "ui/application/Announcer.h"
 #include "ui/commands/CommandContext.h"
+#include "ui/widgets/SecondaryWindow.h"
 
 class QGroupBox;
 class QLabel;
@@ -19,7 +18,7 @@ class ValueLabel;
 //
 // Every step yields, so whatever the player does may arrive in the middle of a long walk. There is
 // one stepping loop at a time: a request that comes during it only gives it another goal.
-class frmReplay : public QDialog {
+class frmReplay : public SecondaryWindow {
   Q_OBJECT
 
  public:
@@ -60,7 +59,6 @@ class frmReplay : public QDialog {
   QGroupBox* AddKnightFrame();
   QGroupBox* AddAdvanceFrame();
   QGroupBox* AddControlsFrame();
-  QPushButton* AddButton(const char* name, const char* caption, void (frmReplay::*handler)());
 
   // The move shown, 1 = the first square: always that of the live game.
   int ReplayPosition() const { return context_.state.MoveCount; }

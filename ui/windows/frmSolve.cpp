@@ -5,8 +5,8 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QScopedValueRollback>
+#include <QVBoxLayout>
 
 #include "core/NumberText.h"
 #include "ui/widgets/NamedControls.h"
@@ -26,13 +26,10 @@ QString AsRefresh(std::int64_t rate) {
 }  // namespace
 
 frmSolve::frmSolve(const CommandContext& context, QWidget* mainWindow)
-    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+    : SecondaryWindow(mainWindow, "frmSolve", "Solve"),
       context_(context),
       announcer_(TellingMilliseconds) {
-  setObjectName("frmSolve");
-  setWindowTitle("Solve");
-  auto* layout = new QVBoxLayout(this);
-  layout->setSizeConstraint(QLayout::SetFixedSize);
+  QVBoxLayout* layout = AddColumn();
   layout->addWidget(AddKnightFrame());
   layout->addWidget(AddRefreshFrame());
   layout->addWidget(AddControlsFrame());
@@ -81,22 +78,14 @@ QGroupBox* frmSolve::AddRefreshFrame() {
 
 QGroupBox* frmSolve::AddControlsFrame() {
   QGroupBox* frame = AddFrame(this, "fraControls", " Controls:");
-  cmdStartStop_ = AddButton("cmdStartStop", "&Start", &frmSolve::cmdStartStop_Click);
-  cmdBacktrack_ = AddButton("cmdBacktrack", "&Backtrack", &frmSolve::cmdBacktrack_Click);
+  cmdStartStop_ = AddButton(this, "cmdStartStop", "&Start", &frmSolve::cmdStartStop_Click);
+  cmdBacktrack_ = AddButton(this, "cmdBacktrack", "&Backtrack", &frmSolve::cmdBacktrack_Click);
   cmdBacktrack_->setEnabled(false);
   auto* layout = new QVBoxLayout(frame);
   layout->addWidget(cmdStartStop_);
   layout->addWidget(cmdBacktrack_);
-  layout->addWidget(AddButton("cmdClose", "&Close", &frmSolve::cmdClose_Click));
+  layout->addWidget(AddButton(this, "cmdClose", "&Close", &frmSolve::cmdClose_Click));
   return frame;
-}
-
-QPushButton* frmSolve::AddButton(const char* name, const char* caption,
-                                 void (frmSolve::*handler)()) {
-  auto* button = new QPushButton(caption, this);
-  button->setObjectName(name);
-  connect(button, &QPushButton::clicked, this, handler);
-  return button;
 }
 
 void frmSolve::hsclRefreshRateValue_Change() {

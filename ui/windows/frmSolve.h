@@ -2,11 +2,10 @@
 
 #include <cstdint>
 
-#include <QDialog>
-
 #include "solver/TourSolver.h"
 #include "ui/application/Announcer.h"
 #include "ui/commands/CommandContext.h"
+#include "ui/widgets/SecondaryWindow.h"
 
 class QGridLayout;
 class QGroupBox;
@@ -19,7 +18,7 @@ class ValueLabel;
 //
 // The search runs inside the click that starts it. Whatever the player does meanwhile arrives in
 // the middle of it, when it yields: closing then waits for the search to unwind.
-class frmSolve : public QDialog, public SolveProgress {
+class frmSolve : public SecondaryWindow, public SolveProgress {
   Q_OBJECT
 
  public:
@@ -43,7 +42,6 @@ class frmSolve : public QDialog, public SolveProgress {
   QGroupBox* AddKnightFrame();
   QGroupBox* AddRefreshFrame();
   QGroupBox* AddControlsFrame();
-  QPushButton* AddButton(const char* name, const char* caption, void (frmSolve::*handler)());
 
   void ShowValues(std::int64_t tested);
   void OfferStop(bool stop);

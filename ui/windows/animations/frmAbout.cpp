@@ -5,12 +5,12 @@
 #include <QFontInfo>
 #include <QLabel>
 #include <QPainter>
-#include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
 
 #include "app/Globals.h"
 #include "core/NumberText.h"
+#include "ui/widgets/NamedControls.h"
 #include "ui/widgets/WindowPlacing.h"
 #include "ui/widgets/pictures/PictureReader.h"
 #include "ui/windows/animations/Canvas.h"
@@ -88,21 +88,17 @@ QFrame* NewLine(const char* name, QPalette::ColorRole role, QWidget* parent) {
 }  // namespace
 
 frmAbout::frmAbout(const Globals& globals, bool manyColors, QWidget* mainWindow)
-    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+    : SecondaryWindow(mainWindow, "frmAbout", QString("About ") + Title),
       globals_(globals),
       picAboutImage_(new Canvas(this)),
       ManyColors_(manyColors) {
-  setObjectName("frmAbout");
-  setWindowTitle(QString("About ") + Title);
   picAboutImage_->setObjectName("picAboutImage");
   picAboutImage_->setAccessibleName(QString("Picture of ") + Title);
   picAboutImage_->setFixedSize(PictureSize);
   picAboutImage_->installEventFilter(this);
-  auto* cmdOK = new QPushButton("OK", this);
-  cmdOK->setObjectName("cmdOK");
+  QPushButton* cmdOK = AddButton(this, "cmdOK", "OK", &frmAbout::cmdOK_Click);
   cmdOK->setDefault(true);
   cmdOK->setFocus();
-  connect(cmdOK, &QPushButton::clicked, this, &frmAbout::cmdOK_Click);
   tmrAnimation_.setObjectName("tmrAnimation");
   tmrAnimation_.setInterval(DrawIntervalMilliseconds);
   connect(&tmrAnimation_, &QTimer::timeout, this, &frmAbout::Animate);
@@ -111,8 +107,7 @@ frmAbout::frmAbout(const Globals& globals, bool manyColors, QWidget* mainWindow)
   pictureAndTexts->setSpacing(Gap);
   pictureAndTexts->addWidget(picAboutImage_, 0, Qt::AlignTop);
   pictureAndTexts->addLayout(AddTexts());
-  auto* layout = new QVBoxLayout(this);
-  layout->setSizeConstraint(QLayout::SetFixedSize);
+  QVBoxLayout* layout = AddColumn();
   layout->setContentsMargins(Gap, Gap, Gap, Gap);
   layout->setSpacing(Gap);
   layout->addLayout(pictureAndTexts);
@@ -136,9 +131,7 @@ QVBoxLayout* frmAbout::AddTexts() {
 }
 
 QLabel* frmAbout::AddLabel(const char* name, const QString& text, int points) {
-  auto* label = new QLabel(text, this);
-  label->setObjectName(name);
-  label->setTextFormat(Qt::PlainText);
+  QLabel* label = ::AddLabel(this, name, text);
   const int width = TextWidthOn(screen()->availableSize().width());
   label->setFont(ArialFor(text, points, width));
   label->setWordWrap(true);

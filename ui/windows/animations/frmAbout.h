@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QDialog>
 #include <QTimer>
 
 #include "app/Globals.h"
 #include "core/Random.h"
+#include "ui/widgets/SecondaryWindow.h"
 
 class Canvas;
 class QLabel;
@@ -12,7 +12,7 @@ class QVBoxLayout;
 
 // Tells what the program is. A double-click on its picture starts an animation, which runs for as
 // long as the window is seen.
-class frmAbout : public QDialog {
+class frmAbout : public SecondaryWindow {
   Q_OBJECT
 
  public:

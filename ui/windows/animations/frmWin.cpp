@@ -3,10 +3,10 @@
 #include <cmath>
 
 #include <QFontMetricsF>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "core/Twips.h"
+#include "ui/widgets/NamedControls.h"
 #include "ui/widgets/WindowPlacing.h"
 #include "ui/windows/animations/Canvas.h"
 
@@ -34,22 +34,17 @@ QSize SizeAroundTitle() {
 }  // namespace
 
 frmWin::frmWin(bool manyColors, QWidget* mainWindow)
-    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+    : SecondaryWindow(mainWindow, "frmWin", Text),
       picWin_(new Canvas(this)),
       manyColors_(manyColors) {
-  setObjectName("frmWin");
-  setWindowTitle(Text);
   picWin_->setObjectName("picWin");
   picWin_->setAccessibleName(Text);
   picWin_->setFixedSize(SizeAroundTitle());
-  auto* cmdOK = new QPushButton("OK", this);
-  cmdOK->setObjectName("cmdOK");
+  QPushButton* cmdOK = AddButton(this, "cmdOK", "OK", &frmWin::cmdOK_Click);
   cmdOK->setDefault(true);
   cmdOK->setFocus();
-  connect(cmdOK, &QPushButton::clicked, this, &frmWin::cmdOK_Click);
 
-  auto* layout = new QVBoxLayout(this);
-  layout->setSizeConstraint(QLayout::SetFixedSize);
+  QVBoxLayout* layout = AddColumn();
   layout->addWidget(picWin_);
   layout->addWidget(cmdOK, 0, Qt::AlignHCenter);
   tmrDraw_.setObjectName("tmrDraw");

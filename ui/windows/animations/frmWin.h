@@ -1,15 +1,15 @@
 #pragma once
 
-#include <QDialog>
 #include <QTimer>
 
 #include "core/Random.h"
+#include "ui/widgets/SecondaryWindow.h"
 
 class Canvas;
 
 // The firework for a tour of all 64 squares that the player made alone. It runs for as long as the
 // window is seen.
-class frmWin : public QDialog {
+class frmWin : public SecondaryWindow {
   Q_OBJECT
 
  public:

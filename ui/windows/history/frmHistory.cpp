@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
-#include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QSignalBlocker>
@@ -34,15 +33,13 @@ constexpr int ListWidthInRows = 14;
 }  // namespace
 
 frmHistory::frmHistory(const CommandContext& context, DefaultPrinter& printer, QWidget* mainWindow)
-    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
-      context_(context),
-      printer_(printer) {
-  setObjectName("frmHistory");
+    : SecondaryWindow(mainWindow, "frmHistory"), context_(context), printer_(printer) {
   lstMoves_ = new QListWidget(this);
   lstMoves_->setObjectName("lstMoves");
   connect(lstMoves_, &QListWidget::currentRowChanged, this, &frmHistory::lstMoves_Click);
-  cmdOptionsOrUndo_ = AddButton("cmdOptionsOrUndo", &frmHistory::cmdOptionsOrUndo_Click);
-  cmdClose_ = AddButton("cmdClose", &frmHistory::cmdClose_Click);
+  cmdOptionsOrUndo_ = AddButton(this, "cmdOptionsOrUndo", "", &frmHistory::cmdOptionsOrUndo_Click);
+  cmdClose_ = AddButton(this, "cmdClose", "", &frmHistory::cmdClose_Click);
+  UseNoDefaultButton();
   AddOptions();
   lblPrinting_ = AddLabel(this, "lblPrinting", QString());
   connect(&printer_, &DefaultPrinter::Finished, this,
@@ -59,14 +56,6 @@ frmHistory::frmHistory(const CommandContext& context, DefaultPrinter& printer, Q
       QSize(ListWidthInRows * row, VisibleRows * row).boundedTo(screen()->availableSize() / 2));
   lstMoves_->setFocus();
   PlaceDialog(*this, *mainWindow);
-}
-
-QPushButton* frmHistory::AddButton(const char* name, void (frmHistory::*handler)()) {
-  auto* button = new QPushButton(this);
-  button->setObjectName(name);
-  button->setAutoDefault(false);
-  connect(button, &QPushButton::clicked, this, handler);
-  return button;
 }
 
 void frmHistory::AddOptions() {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QDialog>
 #include <QStringList>
 
 #include "ui/commands/CommandContext.h"
+#include "ui/widgets/SecondaryWindow.h"
 
 class DefaultPrinter;
 class QAction;
@@ -15,7 +15,7 @@ class QPushButton;
 // One window with two uses: the moves of the game, to be taken along, or the commands that can be
 // undone and redone, to be gone through. The list's property "tag" holds the row of "No Change" as
 // text; it is empty in the first use.
-class frmHistory : public QDialog {
+class frmHistory : public SecondaryWindow {
   Q_OBJECT
 
  public:
@@ -37,7 +37,6 @@ class frmHistory : public QDialog {
   void done(int result) override;
 
  private:
-  QPushButton* AddButton(const char* name, void (frmHistory::*handler)());
   void AddOptions();
   void FillList(const QStringList& rows, const QString& tag);
   QStringList Lines() const;

@@ -46,12 +46,10 @@ int StartingSquare(const GameOptions& options) {
 }  // namespace
 
 frmPreferences::frmPreferences(const CommandContext& context, QWidget* mainWindow)
-    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+    : SecondaryWindow(mainWindow, "frmPreferences", "Preferences"),
       context_(context),
       settings_(context.globals.settings),
       menus_(this) {
-  setObjectName("frmPreferences");
-  setWindowTitle("Preferences");
   AddControls();
   Form_Load();
   PlaceDialog(*this, *mainWindow);

@@ -2,9 +2,8 @@
 
 #include <array>
 
-#include <QDialog>
-
 #include "ui/commands/CommandContext.h"
+#include "ui/widgets/SecondaryWindow.h"
 #include "ui/windows/preferences/PreferenceMenus.h"
 
 class ChooserButton;
@@ -14,12 +13,11 @@ class QCheckBox;
 class QGridLayout;
 class QGroupBox;
 class QLayout;
-class QPushButton;
 class Swatch;
 
 // The preferences. The six choosers change the settings in memory; everything is stored and applied
 // by OK only.
-class frmPreferences : public QDialog {
+class frmPreferences : public SecondaryWindow {
   Q_OBJECT
 
  public:
@@ -53,7 +51,6 @@ class frmPreferences : public QDialog {
   QGroupBox* AddProgramFrame();
   QLayout* AddClosingButtons();
   void AddChooser(int owner, QGridLayout& layout, int row);
-  QPushButton* AddButton(const char* name, const char* caption, void (frmPreferences::*handler)());
 
   void Form_Load();
   void ChooseColor(int owner);

@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QRadioButton>
+#include <QVBoxLayout>
 
 #include "ui/widgets/NamedControls.h"
 #include "ui/windows/preferences/ChooserButton.h"
@@ -42,8 +43,7 @@ void frmPreferences::AddControls() {
   frames->addWidget(AddHighlightFrame(), 1, 0);
   frames->addWidget(AddPositionFrame(), 0, 1);
   frames->addWidget(AddProgramFrame(), 1, 1);
-  auto* layout = new QVBoxLayout(this);
-  layout->setSizeConstraint(QLayout::SetFixedSize);
+  QVBoxLayout* layout = AddColumn();
   layout->addLayout(frames);
   layout->addLayout(AddClosingButtons());
 }
@@ -104,10 +104,10 @@ QGroupBox* frmPreferences::AddPositionFrame() {
 QGroupBox* frmPreferences::AddProgramFrame() {
   QGroupBox* frame = AddFrame(this, "fraProgram", "Program:");
   auto* layout = new QVBoxLayout(frame);
-  layout->addWidget(AddButton("cmdDefaultConfiguration", "Defa&ult Configuration",
+  layout->addWidget(AddButton(this, "cmdDefaultConfiguration", "Defa&ult Configuration",
                               &frmPreferences::cmdDefaultConfiguration_Click));
-  layout->addWidget(
-      AddButton("cmdClearScores", "Clear &Score Lists", &frmPreferences::cmdClearScores_Click));
+  layout->addWidget(AddButton(this, "cmdClearScores", "Clear &Score Lists",
+                              &frmPreferences::cmdClearScores_Click));
   layout->addStretch();
   return frame;
 }
@@ -116,17 +116,9 @@ QLayout* frmPreferences::AddClosingButtons() {
   auto* layout = new QHBoxLayout;
   layout->setSpacing(ButtonGap);
   layout->addStretch();
-  QPushButton* cmdOK = AddButton("cmdOK", "OK", &frmPreferences::cmdOK_Click);
+  QPushButton* cmdOK = AddButton(this, "cmdOK", "OK", &frmPreferences::cmdOK_Click);
   cmdOK->setDefault(true);
   layout->addWidget(cmdOK);
-  layout->addWidget(AddButton("cmdCancel", "Cancel", &frmPreferences::cmdCancel_Click));
+  layout->addWidget(AddButton(this, "cmdCancel", "Cancel", &frmPreferences::cmdCancel_Click));
   return layout;
-}
-
-QPushButton* frmPreferences::AddButton(const char* name, const char* caption,
-                                       void (frmPreferences::*handler)()) {
-  auto* button = new QPushButton(caption, this);
-  button->setObjectName(name);
-  connect(button, &QPushButton::clicked, this, handler);
-  return button;
 }

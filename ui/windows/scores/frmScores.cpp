@@ -6,10 +6,10 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "core/NumberText.h"
+#include "ui/widgets/NamedControls.h"
 #include "ui/widgets/WindowPlacing.h"
 #include "ui/widgets/pictures/PictureReader.h"
 #include "ui/windows/scores/CoverPicture.h"
@@ -51,11 +51,8 @@ double ScaleFor(const QSize& table) {
 }  // namespace
 
 frmScores::frmScores(const CommandContext& context, QWidget* mainWindow)
-    : QDialog(mainWindow, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
-      context_(context) {
-  setObjectName("frmScores");
-  auto* layout = new QVBoxLayout(this);
-  layout->setSizeConstraint(QLayout::SetFixedSize);
+    : SecondaryWindow(mainWindow, "frmScores"), context_(context) {
+  QVBoxLayout* layout = AddColumn();
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   AddBackground();
@@ -91,9 +88,7 @@ QWidget* frmScores::AddBackgroundCorner(int height) {
 }
 
 void frmScores::AddNameBox() {
-  lblMeasureWidth_ = new QLabel(table_);
-  lblMeasureWidth_->setObjectName("lblMeasureWidth");
-  lblMeasureWidth_->setTextFormat(Qt::PlainText);
+  lblMeasureWidth_ = AddLabel(table_, "lblMeasureWidth", QString());
   lblMeasureWidth_->hide();
   txtHighScore_ = new NameBox(table_);
   txtHighScore_->setObjectName("txtHighScore");
@@ -108,26 +103,20 @@ QHBoxLayout* frmScores::AddButtons() {
   auto* layout = new QHBoxLayout;
   layout->setContentsMargins(ButtonMargin, ButtonMargin, ButtonMargin, ButtonMargin);
   layout->setSpacing(ButtonGap);
-  cmdNewGame_ = AddButton("cmdNewGame", "&New Game", &frmScores::cmdNewGame_Click);
-  cmdReplay_ = AddButton("cmdReplay", "&View Replay", &frmScores::cmdReplay_Click);
-  cmdClose_ = AddButton("cmdClose", "&Close", &frmScores::cmdClose_Click);
+  cmdNewGame_ = AddButton(this, "cmdNewGame", "&New Game", &frmScores::cmdNewGame_Click);
+  cmdReplay_ = AddButton(this, "cmdReplay", "&View Replay", &frmScores::cmdReplay_Click);
+  cmdClose_ = AddButton(this, "cmdClose", "&Close", &frmScores::cmdClose_Click);
+  UseNoDefaultButton();
   layout->addWidget(AddBackgroundCorner(cmdClose_->sizeHint().height()));
   layout->addStretch();
-  for (QPushButton* button : {cmdNewGame_, cmdReplay_, cmdClose_}) layout->addWidget(button);
+  for (QPushButton* button : {cmdNewGame_, cmdReplay_, cmdClose_}) {
+    button->setMinimumWidth(button->sizeHint().width() + ButtonPadding);
+    layout->addWidget(button);
+  }
   cmdNewGame_->hide();
   cmdReplay_->hide();
   cmdClose_->setFocus();
   return layout;
-}
-
-QPushButton* frmScores::AddButton(const char* name, const char* caption,
-                                  void (frmScores::*handler)()) {
-  auto* button = new QPushButton(caption, this);
-  button->setObjectName(name);
-  button->setAutoDefault(false);
-  button->setMinimumWidth(button->sizeHint().width() + ButtonPadding);
-  connect(button, &QPushButton::clicked, this, handler);
-  return button;
 }
 
 void frmScores::LoadHigh() {

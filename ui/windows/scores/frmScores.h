@@ -3,10 +3,11 @@
 #include <cstdint>
 #include <optional>
 
-#include <QDialog>
+#include <QImage>
 
 #include "storage/ScoreLists.h"
 #include "ui/commands/CommandContext.h"
+#include "ui/widgets/SecondaryWindow.h"
 
 class CoverPicture;
 class NameBox;
@@ -17,7 +18,7 @@ class ScoreTable;
 
 // One score list: ten rows over a picture. A finished game that is offered to it is ranked in, and
 // its player's name is asked for. exec() gives the ScoresAnswer.
-class frmScores : public QDialog {
+class frmScores : public SecondaryWindow {
   Q_OBJECT
 
  public:
@@ -51,7 +52,6 @@ class frmScores : public QDialog {
   void AddNameBox();
   QWidget* AddBackgroundCorner(int height);
   QHBoxLayout* AddButtons();
-  QPushButton* AddButton(const char* name, const char* caption, void (frmScores::*handler)());
   void Load(ScoreList list);
   void Insert(const FinishedGame& game, int place);
   void ShowRow(int row);
