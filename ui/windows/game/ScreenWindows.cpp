@@ -90,7 +90,8 @@ ScoresAnswer ScreenWindows::ShowScores(ScoreList list, std::optional<FinishedGam
     window.LoadLow();
   }
   if (finished) window.SendScore(finished->totalMoves, finished->totalTime, isHigh);
-  return static_cast<ScoresAnswer>(window.exec());
+  window.exec();
+  return window.Answer();
 }
 
 void ScreenWindows::ShowPreferences() {

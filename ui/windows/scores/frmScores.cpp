@@ -32,8 +32,6 @@ constexpr int ButtonGap = 8;
 constexpr int BoxMargin = 18;
 constexpr int BoxIndent = 3;
 
-static_assert(static_cast<int>(ScoresAnswer::Close) == QDialog::Rejected);
-
 constexpr std::size_t Index(int row) {
   return static_cast<std::size_t>(row);
 }
@@ -237,26 +235,27 @@ void frmScores::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void frmScores::cmdNewGame_Click() {
-  Answer(ScoresAnswer::NewGame);
+  Leave(ScoresAnswer::NewGame);
 }
 
 void frmScores::cmdReplay_Click() {
-  Answer(ScoresAnswer::Replay);
+  Leave(ScoresAnswer::Replay);
 }
 
 void frmScores::cmdClose_Click() {
-  Answer(ScoresAnswer::Close);
+  Leave(ScoresAnswer::Close);
 }
 
-void frmScores::Answer(ScoresAnswer answer) {
-  done(static_cast<int>(answer));
+void frmScores::done(int) {
+  Leave(ScoresAnswer::Close);
 }
 
-void frmScores::done(int result) {
+void frmScores::Leave(ScoresAnswer answer) {
   const bool pending = !txtHighScore_->isHidden() && HoldsName();
   if (pending && !txtHighScore_Validate()) return;
   const QString name = HoldsName() ? txtHighScore_->text() : QString();
   if (inserted_) SaveScore(context_.globals.ScoreFile, list_, *inserted_, name);
   inserted_.reset();
-  QDialog::done(result);
+  answer_ = answer;
+  QDialog::done(Accepted);
 }

@@ -17,7 +17,7 @@ class QPushButton;
 class ScoreTable;
 
 // One score list: ten rows over a picture. A finished game that is offered to it is ranked in, and
-// its player's name is asked for. exec() gives the ScoresAnswer.
+// its player's name is asked for.
 class frmScores : public SecondaryWindow {
   Q_OBJECT
 
@@ -40,8 +40,11 @@ class frmScores : public SecondaryWindow {
   // False when the text is no name: the player has then been told so and is back in the box.
   bool txtHighScore_Validate();
 
-  // Saves the list when it has changed. Stays open over a name that is refused.
+  // Every other way of closing ends here; it counts as Close.
   void done(int result) override;
+
+  // After the window has been closed.
+  ScoresAnswer Answer() const { return answer_; }
 
  protected:
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -58,7 +61,8 @@ class frmScores : public SecondaryWindow {
   void ShowNameBox();
   void FitNameBox();
   bool HoldsName() const;
-  void Answer(ScoresAnswer answer);
+  // Saves the list when it has changed. Stays open over a name that is refused.
+  void Leave(ScoresAnswer answer);
 
   const CommandContext& context_;
   QImage picture_;
@@ -74,4 +78,5 @@ class frmScores : public SecondaryWindow {
   ScoreRows rows_;
   std::optional<FinishedGame> inserted_;  // the list has changed
   int editedRow_ = 0;                     // of the inserted game
+  ScoresAnswer answer_ = ScoresAnswer::Close;
 };
