@@ -31,6 +31,11 @@ class Game {
   // A move that the caller knows to be legal, or the first square; (x, y) is a square of the board.
   // Does nothing after 64 moves: whoever makes moves in a loop stops there too.
   void ValidMove(int x, int y);
+  // What a move and its undo do to the game alone. Nobody sees or hears of it, and the menu stays
+  // as it is: for work that ends with a move or an undo of the whole kind. There is a move to take
+  // back besides the first, and room for another.
+  void MoveUnseen(int x, int y);
+  void TakeBackUnseen();
   void SetupFirstMove();
   void MakeRandomStartingMove();
   // Any index but 0..63 is ignored by these two.
@@ -81,6 +86,8 @@ class Game {
   void mnuViewTime_Click();
 
  private:
+  void PlaceKnight(MoveRow move);
+  void ListMove(MoveRow move);
   void AnnounceEnd();
   void RewindToFirstSquare();
   void ClearBoard();

@@ -14,6 +14,10 @@ std::string EndMessage(int moveCount) {
   return "There are no more valid moves.";
 }
 
+MoveRow Row(int x, int y) {
+  return {static_cast<std::int16_t>(x), static_cast<std::int16_t>(y)};
+}
+
 std::int16_t StartingCoordinate(std::int16_t stored) {
   return IsSquare(stored, 0) ? stored : std::int16_t{0};
 }
@@ -33,18 +37,31 @@ void Game::ValidMove(int x, int y) {
   if (state_.MoveCount == SquareCount) return;
   SwitchMenus(window_, state_.MoveCount == 0 ? MenuChange::FirstSquareTaken : MenuChange::MoveMade);
 
-  const MoveRow move{static_cast<std::int16_t>(x), static_cast<std::int16_t>(y)};
-  state_.Cell(x, y) = GameState::Visited;
-  state_.KnightX = state_.CursorX = move.x;
-  state_.KnightY = state_.CursorY = move.y;
+  const MoveRow move = Row(x, y);
+  PlaceKnight(move);
   window_.RestoreColors();
-  state_.MoveList[static_cast<std::size_t>(state_.MoveCount)] = move;
-  ++state_.MoveCount;
+  ListMove(move);
   DoCaption();
 
   if (state_.ApplyingMoves) return;
   window_.EnableClock(true);
   if (CheckIfGameOver(x, y)) AnnounceEnd();
+}
+
+void Game::MoveUnseen(int x, int y) {
+  PlaceKnight(Row(x, y));
+  ListMove(Row(x, y));
+}
+
+void Game::PlaceKnight(MoveRow move) {
+  state_.Cell(move.x, move.y) = GameState::Visited;
+  state_.KnightX = state_.CursorX = move.x;
+  state_.KnightY = state_.CursorY = move.y;
+}
+
+void Game::ListMove(MoveRow move) {
+  state_.MoveList[static_cast<std::size_t>(state_.MoveCount)] = move;
+  ++state_.MoveCount;
 }
 
 void Game::AnnounceEnd() {

@@ -39,6 +39,16 @@ void Game::mnuEditUndo_Click() {
     SwitchMenus(window_, MenuChange::MoveUndone);
   }
 
+  TakeBackUnseen();
+  window_.RestoreColors();
+
+  if (!state_.ApplyingMoves) window_.EnableClock(true);
+  if (!playerPickedFirstSquare && state_.MoveCount == 1) {
+    SwitchMenus(window_, MenuChange::BackOnFixedSquare);
+  }
+}
+
+void Game::TakeBackUnseen() {
   --state_.MoveCount;
   const MoveRow undone = state_.MoveList[static_cast<std::size_t>(state_.MoveCount)];
   state_.Cell(undone.x, undone.y) = GameState::Unvisited;
@@ -47,10 +57,4 @@ void Game::mnuEditUndo_Click() {
                              : MoveRow{0, 0};
   state_.KnightX = before.x;
   state_.KnightY = before.y;
-  window_.RestoreColors();
-
-  if (!state_.ApplyingMoves) window_.EnableClock(true);
-  if (!playerPickedFirstSquare && state_.MoveCount == 1) {
-    SwitchMenus(window_, MenuChange::BackOnFixedSquare);
-  }
 }

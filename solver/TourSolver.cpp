@@ -4,20 +4,32 @@
 
 namespace {
 
-void MoveAsSearch(const SolveTask& task, const TourSearch& search) {
-  const MoveRow move = search.Move(task.state.MoveCount);
-  task.game.ValidMove(move.x, move.y);
+void MoveAsSearch(const SolveTask& task, const TourSearch& search, int moveCount) {
+  while (task.state.MoveCount + 1 < moveCount) {
+    const MoveRow move = search.Move(task.state.MoveCount);
+    task.game.MoveUnseen(move.x, move.y);
+  }
+  if (task.state.MoveCount == moveCount) return;
+  const MoveRow last = search.Move(task.state.MoveCount);
+  task.game.ValidMove(last.x, last.y);
 }
 
-// Brings the live game from where it followed the search last to where the search stands, by the
-// operations that a player's moves go through. While SolverRunning is set none of it is seen. A
-// search that has taken moves back leaves marks in the menus and at the cursor, so at least one is
-// taken back here as well.
+void TakeBackTo(const SolveTask& task, int moveCount) {
+  while (task.state.MoveCount > moveCount + 1) task.game.TakeBackUnseen();
+  if (task.state.MoveCount > moveCount) task.game.mnuEditUndo_Click();
+}
+
+// Brings the live game from where it followed the search last to where the search stands. The last
+// undo and the last move are made by the operations that a player's go through: what these do to
+// menus and cursor is all that is left of a search that made every one of its moves so. Such a
+// search has taken moves back, so at least one is taken back here as well.
 void FollowSearch(const SolveTask& task, const TourSearch& search) {
   const int common = search.MovesStandingSince(task.solver.PositionsTested);
-  if (task.state.MoveCount == common && search.HasTakenBack()) MoveAsSearch(task, search);
-  while (task.state.MoveCount > common) task.game.mnuEditUndo_Click();
-  while (task.state.MoveCount < search.MoveCount()) MoveAsSearch(task, search);
+  if (task.state.MoveCount == common && search.HasTakenBack()) {
+    MoveAsSearch(task, search, common + 1);
+  }
+  TakeBackTo(task, common);
+  MoveAsSearch(task, search, search.MoveCount());
   task.solver.PositionsTested = search.Entries();
 }
 
