@@ -1,9 +1,140 @@
 #include "ui/application/FileDialogs.h"
 
-#include <QFileInfo>
-#include <QMimeDatabase>
+#include <algorithm>
 
-#include "ui/application/FileDialog.h"
+#include <QDateTime>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMimeDatabase>
+#include <QScreen>
+#include <QTreeView>
+
+#include "ui/application/MessageBoxes.h"
+#include "ui/widgets/LongText.h"
+
+namespace {
+
+constexpr int CharactersOfLine = 60;
+constexpr int SizeColumn = 1;
+constexpr int DateColumn = 3;
+constexpr int ColumnMargin = 24;
+constexpr int NameCharacters = 30;
+
+// A directory that is gone and has no separator at its end would be taken for the name of a file.
+QString AsDirectory(const QString& text) {
+  return text.endsWith('/') ? text : text + '/';
+}
+
+QString WidestDate() {
+  return QLocale::system().toString(QDateTime({2028, 12, 28}, {22, 58, 58}), QLocale::ShortFormat);
+}
+
+// Qt's file dialog with questions and messages of our own, in plain text: Qt's take a file's name
+// for markup. It takes a name as it is typed, where Qt takes only what stands between double
+// quotes. Where the desktop has a dialog of its own, that is shown and asks for itself.
+class FileDialog : public QFileDialog {
+ public:
+  FileDialog(QWidget& mainWindow, const QString& title, const FileQuestion& question);
+
+  // The path, after the dialog has been accepted.
+  QString Chosen() const;
+
+  void accept() override;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  QString PathOf(const QString& typed) const;
+  bool MayTake(const QFileInfo& file);
+  bool MayOverwrite(const QFileInfo& file);
+  void Refuse(const QString& name, const QString& why);
+  void ShowWholeColumns();
+
+  FileIcons icons_;
+  QString chosen_;
+};
+
+FileDialog::FileDialog(QWidget& mainWindow, const QString& title, const FileQuestion& question)
+    : QFileDialog(DialogParent(mainWindow), title, AsDirectory(question.directory),
+                  QtNameFilters(question.filter)) {
+  setIconProvider(&icons_);
+  setOption(QFileDialog::HideNameFilterDetails);
+}
+
+QString FileDialog::Chosen() const {
+  return chosen_.isEmpty() ? selectedFiles().value(0) : chosen_;
+}
+
+QString FileDialog::PathOf(const QString& typed) const {
+  // Qt would take what stands between double quotes for the names of several files.
+  return typed.contains('"') ? directory().absoluteFilePath(typed) : selectedFiles().value(0);
+}
+
+void FileDialog::accept() {
+  auto* name = findChild<QLineEdit*>("fileNameEdit");
+  if (name == nullptr) return QFileDialog::accept();  // a dialog of the desktop's own
+  const QFileInfo file(PathOf(name->text()));
+  if (file.isDir()) {
+    const bool wasTyped = directory().absoluteFilePath(name->text()) == file.absoluteFilePath();
+    if (wasTyped) name->clear();  // first: Qt selects the folder for an empty name
+    setDirectory(QDir::cleanPath(file.absoluteFilePath()));
+  } else if (MayTake(file)) {
+    chosen_ = file.absoluteFilePath();
+    QDialog::accept();
+  }
+}
+
+bool FileDialog::MayTake(const QFileInfo& file) {
+  if (!file.absoluteDir().exists()) {
+    Refuse(file.absoluteFilePath(), "Path does not exist.\nVerify that it is the right one.");
+    return false;
+  }
+  if (acceptMode() == AcceptSave) return !file.exists() || MayOverwrite(file);
+  if (file.exists() || fileMode() == AnyFile) return true;
+  Refuse(file.fileName(), "File not found.\nPlease verify the correct file name was given.");
+  return false;
+}
+
+bool FileDialog::MayOverwrite(const QFileInfo& file) {
+  return AskQuestion(
+      *this, windowTitle(),
+      InLines(file.fileName(), CharactersOfLine) + " already exists.\nDo you want to replace it?",
+      DefaultAnswer::No);
+}
+
+void FileDialog::Refuse(const QString& name, const QString& why) {
+  TellMessage(*this, windowTitle(), InLines(name, CharactersOfLine) + "\n" + why,
+              MessageIcon::Exclamation);
+}
+
+void FileDialog::showEvent(QShowEvent* event) {
+  ShowWholeColumns();
+  QFileDialog::showEvent(event);
+}
+
+// The dialog opens wide enough for all columns, as far as the screen has the room.
+void FileDialog::ShowWholeColumns() {
+  auto* files = findChild<QTreeView*>("treeView");
+  if (files == nullptr) return;
+  QHeaderView& header = *files->header();
+  const QFontMetrics letters = files->fontMetrics();
+  const auto widen = [&](int column, int width) {
+    header.resizeSection(column, std::max(header.sectionSize(column), width + ColumnMargin));
+  };
+  widen(0, NameCharacters * letters.averageCharWidth());
+  widen(SizeColumn, letters.horizontalAdvance("1023.99 KiB"));
+  widen(DateColumn, letters.horizontalAdvance(WidestDate()));
+  layout()->activate();
+  const int missing = header.length() + ColumnMargin - files->width();
+  const QSize room = screen()->availableSize();
+  if (missing > 0) resize(QSize(width() + missing, height()).boundedTo(room));
+}
+
+}  // namespace
 
 QString ChooseFileToOpen(QWidget& mainWindow, const FileQuestion& question) {
   FileDialog dialog(mainWindow, "Open", question);

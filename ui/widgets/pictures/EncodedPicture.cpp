@@ -1,11 +1,14 @@
 #include "ui/widgets/pictures/EncodedPicture.h"
 
+#include <algorithm>
+
 #include <QtEndian>
 
 #include "ui/widgets/pictures/JpegSegments.h"
-#include "ui/widgets/pictures/PngChunks.h"
 
 namespace {
+
+constexpr QByteArrayView PngSignature("\x89PNG\r\n\x1A\n");
 
 struct Signature {
   QByteArrayView begin;
@@ -55,6 +58,30 @@ EncodedPicture GifIn(const QByteArray& file) {
           .bytes = file,
           .bytesPerPixel = 8,
           .canvas = {qFromLittleEndian<quint16>(screen), qFromLittleEndian<quint16>(screen + 2)}};
+}
+
+// A chunk is its length, its name, as many bytes and a checksum; the first one is the header.
+EncodedPicture PngIn(const QByteArray& file) {
+  constexpr qsizetype beginSize = 8;
+  constexpr qsizetype checksumSize = 4;
+  constexpr qsizetype bitDepthAt = 24;
+  constexpr QByteArrayView lastChunk = "IEND";
+  constexpr QByteArrayView pictureChunks[] = {"IHDR", "PLTE", "tRNS", "IDAT", lastChunk};
+  EncodedPicture png{.format = "png", .bytes = PngSignature.toByteArray()};
+  const QByteArrayView all(file);
+  for (qsizetype at = PngSignature.size(); at + beginSize <= all.size();) {
+    const auto length = qFromBigEndian<quint32>(all.data() + at);
+    const qsizetype size = std::min(beginSize + length + checksumSize, all.size() - at);
+    const QByteArrayView name = all.sliced(at + 4, 4);
+    if (std::ranges::find(pictureChunks, name) != std::ranges::end(pictureChunks)) {
+      png.bytes += all.sliced(at, size);
+    }
+    if (name == lastChunk) break;
+    at += size;
+  }
+  const bool isDeep = png.bytes.size() > bitDepthAt && png.bytes.at(bitDepthAt) == 16;
+  if (isDeep) png.bytesPerPixel = 8;
+  return png;
 }
 
 }  // namespace

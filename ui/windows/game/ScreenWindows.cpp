@@ -1,16 +1,20 @@
 #include "ui/windows/game/ScreenWindows.h"
 
+#include <memory>
+
 #include <QApplication>
 #include <QTimer>
 
+#include "ui/board/BoardView.h"
 #include "ui/commands/MoveHistory.h"
+#include "ui/widgets/WindowPlacing.h"
 #include "ui/windows/animations/Canvas.h"
 #include "ui/windows/animations/frmAbout.h"
 #include "ui/windows/animations/frmWin.h"
 #include "ui/windows/frmGameOver.h"
 #include "ui/windows/frmReplay.h"
 #include "ui/windows/frmSolve.h"
-#include "ui/windows/game/BesideTheBoard.h"
+#include "ui/windows/game/SidePanel.h"
 #include "ui/windows/game/frmGame.h"
 #include "ui/windows/history/frmHistory.h"
 #include "ui/windows/preferences/frmPreferences.h"
@@ -20,6 +24,33 @@ namespace {
 
 constexpr int RetryMilliseconds = 100;
 
+// For as long as it exists, a dialog has its place beside the board, which it shall not hide. Where
+// windows may choose their places, the dialog stands beside the main window, which moves aside for
+// want of room; elsewhere it is shown inside of it. The dialog and the window outlive it.
+class BesideTheBoard {
+ public:
+  BesideTheBoard(QDialog& dialog, frmGame& window) : window_(window) {
+    if (WindowsHavePlaces()) {
+      formerPosition_ = PlaceBeside(dialog, window, window.Board());
+    } else {
+      panel_ = std::make_unique<SidePanel>(dialog, window);
+    }
+  }
+  ~BesideTheBoard() {
+    if (formerPosition_) window_.move(*formerPosition_);
+    if (panel_ == nullptr) return;
+    panel_.reset();
+    window_.Form_Resize();
+  }
+  BesideTheBoard(const BesideTheBoard&) = delete;
+  BesideTheBoard& operator=(const BesideTheBoard&) = delete;
+
+ private:
+  frmGame& window_;
+  std::unique_ptr<SidePanel> panel_;
+  std::optional<QPoint> formerPosition_;
+};
+
 }  // namespace
 
 ScreenWindows::ScreenWindows(frmGame& mainWindow) : mainWindow_(mainWindow), printer_({}) {
@@ -28,8 +59,8 @@ ScreenWindows::ScreenWindows(frmGame& mainWindow) : mainWindow_(mainWindow), pri
   });
 }
 
-// At once in the window that it was asked in; when that is closed, as soon as nothing else is going
-// on.
+// The window that asked for the printing tells it at once; when that is closed, the main window
+// does as soon as nothing else is going on.
 void ScreenWindows::ReportPrintingFailure() {
   const CommandContext& context = mainWindow_.Context();
   const auto report = [&context] {
