@@ -3,7 +3,6 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <QFile>
 
@@ -25,22 +24,20 @@ bool IsFree(int descriptor) {
 // is living may have opened the file at any moment: it must not find that byte unlocked.
 AttemptMark::AttemptMark(const QString& pathName)
     : name_(QFile::encodeName(pathName)),
-      descriptor_(open(name_.constData(), O_CREAT | O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC,
-                       ModeOfNewFiles)) {
-  if (descriptor_ < 0) return;
+      file_(open(name_.constData(), O_CREAT | O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC,
+                 ModeOfNewFiles)) {
+  if (!file_.IsOpen()) return;
   struct stat status {};
-  if (IsFree(descriptor_) && fstat(descriptor_, &status) == 0 && S_ISREG(status.st_mode)) {
+  if (IsFree(file_.Number()) && fstat(file_.Number(), &status) == 0 && S_ISREG(status.st_mode)) {
     wasCutShortBefore_ = status.st_size > 0;
-    SetLength(descriptor_, 1);
+    SetLength(file_.Number(), 1);
   } else {
-    close(descriptor_);
-    descriptor_ = -1;
+    file_ = Descriptor(-1);
   }
 }
 
 AttemptMark::~AttemptMark() {
-  if (descriptor_ < 0) return;
-  SetLength(descriptor_, 0);
+  if (!file_.IsOpen()) return;
+  SetLength(file_.Number(), 0);
   unlink(name_.constData());
-  close(descriptor_);
 }

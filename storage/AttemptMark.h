@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include "storage/SystemCalls.h"
+
 // A mark on the disk for as long as something is tried that may end the whole program, so that the
 // next copy can tell and leave it be. It costs no waiting for the disk; where it cannot be made
 // there is none.
@@ -18,6 +20,6 @@ class AttemptMark {
 
  private:
   QByteArray name_;
-  int descriptor_;
+  Descriptor file_;
   bool wasCutShortBefore_ = false;
 };

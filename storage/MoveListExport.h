@@ -9,6 +9,12 @@
 // The list of moves as the player takes it along. In what follows, version is the program's version
 // as major and minor number, such as "1.0".
 
+// The last line of what is exported and printed.
+QString GeneratedBy(const QString& version);
+
+// A page has two columns of so many moves.
+inline constexpr qsizetype RowsOfPage = 32;
+
 // One line a move: its number, ".", a tabulator and the square, which is always the last two
 // characters.
 QStringList MoveListLines(const GameState& state);

@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr double SlowestAdvance = 20.0;
-
 std::optional<double> ReadTwips(const IniValues& values, const char* key) {
   const QString text = values.Value("Settings", key);
   if (text.isEmpty()) return std::nullopt;

@@ -12,6 +12,7 @@
 
 inline constexpr int MaximumSolveRefresh = 32000;
 inline constexpr int MaximumCornerDistance = 1500;  // twips
+inline constexpr int SlowestAdvance = 20;           // of a replay: tenths of a second a move
 
 // All lasting preferences. The values given here are the defaults; those of the two directories are
 // the program directory.

@@ -1,7 +1,6 @@
 #include "storage/SettingsTable.h"
 
 #include <algorithm>
-#include <array>
 #include <type_traits>
 
 #include "storage/NumberParser.h"
@@ -18,7 +17,7 @@ constexpr const char* Highlight = "Highlight";
 constexpr bool MayMiss = true;
 
 // Section, key, kind, field, and the places at exit, with the preferences and in a chessboard file.
-constexpr std::array<SettingRow, 28> Table = {{
+constexpr SettingRow Table[] = {
     {General, "Previous Directory", Text, &Settings::PreviousDirectory, {1, 0, 0}},
     {General,
      "Preferences Previous Directory",
@@ -69,7 +68,7 @@ constexpr std::array<SettingRow, 28> Table = {{
     {Chessboard, "Image Positioning", Number, &Settings::ImagePositioning, {0, 13, 10, MayMiss}},
     {Highlight, "Highlight Color", Number, &Settings::HighlightColor, {0, 15, 12}},
     {Highlight, "Highlighting Method", Number, &Settings::HighlightingMethod, {0, 17, 0}},
-}};
+};
 
 // One function for each type that a field can have.
 struct FieldReader {

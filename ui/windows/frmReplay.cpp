@@ -21,7 +21,6 @@
 
 namespace {
 
-constexpr int SlowestSpeed = 20;  // tenths of a second a move
 constexpr int SpeedLargeStep = 5;
 constexpr int SeekLargeStep = 10;
 constexpr int MillisecondsOfTenth = 100;
@@ -61,7 +60,7 @@ void frmReplay::showEvent(QShowEvent* event) {
   setAttribute(Qt::WA_KeyboardFocusChange);
 }
 
-// Made in the order in which they are read aloud: each value after its caption.
+// The labels are made in the order in which they are read aloud: each value after its caption.
 QGroupBox* frmReplay::AddKnightFrame() {
   QGroupBox* frame = AddFrame(this, "fraKnight", " Knight:");
   auto* layout = new QGridLayout(frame);
@@ -105,7 +104,7 @@ QGroupBox* frmReplay::AddAdvanceFrame() {
   hsclSpeedSeekSet_->setObjectName("hsclSpeedSeekSet");
   hsclSpeedSeekSet_->setRange(1, SquareCount);
   connect(hsclSpeedSeekSet_, &ScrollBar::valueChanged, this, &frmReplay::hsclSpeedSeekSet_Change);
-  // Later, after the bar's own name.
+  // The value is told later, after the bar's own name.
   connect(hsclSpeedSeekSet_, &ScrollBar::Entered, this, &frmReplay::TellBar, Qt::QueuedConnection);
   auto* layout = new QGridLayout(frame);
   layout->addWidget(optAdvance_[Automatic], 0, 0, 1, 2);
@@ -235,7 +234,7 @@ void frmReplay::hsclSpeedSeekSet_Change() {
   }
 }
 
-// Silently: the bar changes its meaning here, and the caller runs the handler when it is done.
+// The bar changes its meaning here, and the caller runs the handler when it is done.
 void frmReplay::SetBar(int maximum, int value, int largeStep) {
   const QSignalBlocker silence(hsclSpeedSeekSet_);
   hsclSpeedSeekSet_->setMaximum(maximum);
@@ -255,7 +254,7 @@ void frmReplay::BeginAutomatic() {
   const double speed = LenientNumber(hsclSpeedSeekSet_->property(Tag).toString());
   lblSpeedSeek_->setText("Speed:");
   hsclSpeedSeekSet_->setAccessibleName("Speed");
-  SetBar(SlowestSpeed, static_cast<int>(std::lrint(speed)), SpeedLargeStep);
+  SetBar(SlowestAdvance, static_cast<int>(std::lrint(speed)), SpeedLargeStep);
   hsclSpeedSeekSet_Change();
   cmdAdvancePause_->setText("P&ause");
   if (cmdAdvancePause_->isEnabled()) tmrAdvance_->start();

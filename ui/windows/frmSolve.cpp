@@ -37,7 +37,7 @@ frmSolve::frmSolve(const CommandContext& context, QWidget* mainWindow)
   ShowValues(0);
 }
 
-// Made in the order in which they are read aloud: each value after its caption.
+// The labels are made in the order in which they are read aloud: each value after its caption.
 QGroupBox* frmSolve::AddKnightFrame() {
   QGroupBox* frame = AddFrame(this, "fraKnight", " Knight:");
   auto* layout = new QGridLayout(frame);
@@ -63,10 +63,11 @@ QGroupBox* frmSolve::AddRefreshFrame() {
   hsclRefreshRateValue_->setSingleStep(RefreshSmallStep);
   hsclRefreshRateValue_->setPageStep(RefreshLargeStep);
   hsclRefreshRateValue_->setValue(context_.globals.settings.SolveRefreshRate);
-  lblRefreshRate_ = AddValueLabel(context_.pace, frame, "lblRefreshRate", "Every 32000 Moves");
+  lblRefreshRate_ =
+      AddValueLabel(context_.pace, frame, "lblRefreshRate", AsRefresh(MaximumSolveRefresh));
   connect(hsclRefreshRateValue_, &ScrollBar::valueChanged, this,
           &frmSolve::hsclRefreshRateValue_Change);
-  // Later, after the bar's own name.
+  // The value is told later, after the bar's own name.
   connect(hsclRefreshRateValue_, &ScrollBar::Entered, this, &frmSolve::TellBar,
           Qt::QueuedConnection);
   hsclRefreshRateValue_Change();
