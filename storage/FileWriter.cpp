@@ -1,5 +1,6 @@
 #include "storage/FileWriter.h"
 
+#include <cerrno>
 #include <fcntl.h>
 
 #include "storage/FileRights.h"

@@ -1,6 +1,7 @@
 #include "storage/ScoreLists.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "core/NumberText.h"
 #include "core/TimeString.h"

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <random>
 #include <sys/wait.h>
 #include <unistd.h>

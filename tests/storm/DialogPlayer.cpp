@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QColorDialog>

@@ -1,5 +1,7 @@
 #include "tests/storm/Invariants.h"
 
+#include <algorithm>
+
 #include <QAction>
 #include <QApplication>
 #include <QRegularExpression>

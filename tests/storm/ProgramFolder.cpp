@@ -1,5 +1,6 @@
 #include "tests/storm/ProgramFolder.h"
 
+#include <algorithm>
 #include <sys/stat.h>
 #include <utility>
 

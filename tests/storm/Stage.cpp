@@ -1,5 +1,6 @@
 #include "tests/storm/Stage.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include <QAbstractButton>

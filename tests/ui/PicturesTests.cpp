@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <sys/stat.h>
 #include <unistd.h>
 

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <QGroupBox>
 #include <QScrollBar>
 

@@ -1,6 +1,8 @@
 // The knight is seen walking: over the real windows, with a clock that every turn of the event loop
 // turns on.
 
+#include <algorithm>
+
 #include <QFile>
 #include <QListWidget>
 #include <QMessageBox>

@@ -1,5 +1,7 @@
 #include "ui/board/BoardPictures.h"
 
+#include <utility>
+
 BoardPictures LoadBoardPictures(const Settings& settings, PictureReader& reader) {
   std::vector<QImage> images = reader.Read(
       {settings.LightImage, settings.DarkImage, settings.VisitedImage, settings.KnightImage,

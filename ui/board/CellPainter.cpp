@@ -1,6 +1,7 @@
 #include "ui/board/CellPainter.h"
 
 #include <cmath>
+#include <utility>
 
 #include <QPainter>
 

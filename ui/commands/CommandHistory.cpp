@@ -1,6 +1,7 @@
 #include "ui/commands/CommandHistory.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 
 namespace {

@@ -1,5 +1,7 @@
 #include "ui/commands/MenuCommands.h"
 
+#include <optional>
+
 #include "solver/Autoplay.h"
 
 void mnuFileNew_Click(const CommandContext& context) {

@@ -1,6 +1,7 @@
 #include "ui/commands/Preferences.h"
 
 #include <cmath>
+#include <vector>
 
 #include "core/NumberText.h"
 #include "core/Twips.h"

@@ -1,5 +1,7 @@
 #include "ui/windows/preferences/frmPreferences.h"
 
+#include <cstdint>
+
 #include <QButtonGroup>
 #include <QCheckBox>
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <tuple>
 
 #include <QWidget>
 
