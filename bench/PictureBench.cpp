@@ -56,7 +56,7 @@ void Measure(const Kind& kind, const QStringList& names) {
   std::fflush(stdout);
 }
 
-// In a process of its own, since the peak of another kind would hide its own.
+// Each kind runs in a process of its own, since the peak of another would hide its own.
 void RunApart(const std::function<void()>& work) {
   const pid_t child = fork();
   if (child == 0) {

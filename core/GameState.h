@@ -28,8 +28,8 @@ struct GameOptions {
 
 // Every field of the one live game.
 //
-// For i < MoveCount the cell of MoveList[i] is visited, and no other cell is; while MoveCount > 0
-// the knight stands on MoveList[MoveCount - 1].
+// The cells of the moves below MoveCount are visited, and no others, unless a file named one twice
+// and Undo took it back once. The last of these moves is where the knight stands.
 struct GameState {
   static constexpr std::int16_t Unvisited = 0;
   static constexpr std::int16_t Visited = -1;

@@ -9,8 +9,8 @@
 
 namespace {
 
-// Asked of the system itself: to Qt a file that cannot be looked at just now is not there,
-// and who takes it for missing writes a new one over it.
+// The system itself is asked: to Qt a file that cannot be looked at just now is not there, and who
+// takes it for missing writes a new one over it.
 bool Look(const QByteArray& path, struct stat& status) {
   return Persist([&] { return stat(path.constData(), &status); }) == 0;
 }

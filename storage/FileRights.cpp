@@ -30,7 +30,7 @@ std::optional<QByteArray> Filled(const Call& call) {
   return bytes.first(filled);
 }
 
-// None on disks that know none; nothing when they cannot be told.
+// The list is empty on disks that know no attributes, and missing when they cannot be told.
 std::optional<QList<QByteArray>> AttributesOf(int file) {
   const auto names =
       Filled([file](char* list, std::size_t size) { return flistxattr(file, list, size); });

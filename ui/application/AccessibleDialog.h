@@ -5,8 +5,8 @@
 class QDialog;
 class QMenu;
 
-// A dialog to a screen reader, with the popup menu that is open in it: Qt leaves such
-// menus out of what a dialog contains.
+// A dialog to a screen reader, with the popup menu that is open in it: Qt leaves such menus out of
+// what a dialog contains.
 class AccessibleDialog : public QAccessibleWidget {
  public:
   explicit AccessibleDialog(QDialog& dialog);

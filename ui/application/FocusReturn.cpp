@@ -21,9 +21,8 @@ QWidget* WidgetOf(const QWindow* window) {
   return nullptr;
 }
 
-// Qt overlooks which window gets the keyboard while a popup is open, as the list of
-// completions is when a dialog closes under it: then no widget has the keyboard that the window
-// has.
+// Qt overlooks which window gets the keyboard while a popup is open, as the list of completions is
+// when a dialog closes under it: then no widget has the keyboard that the window has.
 void CatchUpWithKeyboard() {
   const QWindow* window = QGuiApplication::focusWindow();
   if (window == nullptr || QApplication::activeWindow() != nullptr) return;
@@ -36,7 +35,7 @@ FocusReturn::FocusReturn() {
   qGuiApp->installEventFilter(this);
 }
 
-// Later, when the dialog or the popup has been taken off the screen.
+// Both happen later, when the dialog or the popup has been taken off the screen.
 bool FocusReturn::eventFilter(QObject* watched, QEvent* event) {
   if (!watched->isWindowType()) return false;
   auto* window = static_cast<QWindow*>(watched);

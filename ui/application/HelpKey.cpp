@@ -1,5 +1,7 @@
 #include "ui/application/HelpKey.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QDialog>
 #include <QKeyEvent>
@@ -11,7 +13,7 @@ bool IsHelpKey(const QEvent& event) {
          static_cast<const QKeyEvent&>(event).key() == Qt::Key_F1;
 }
 
-// Its own window or inside of another.
+// The dialog is a window of its own or lies inside of another.
 bool IsInDialog(const QWidget* widget) {
   while (widget != nullptr && qobject_cast<const QDialog*>(widget) == nullptr) {
     widget = widget->parentWidget();

@@ -16,7 +16,7 @@ InputWatch::InputWatch() {
   QCoreApplication::instance()->installEventFilter(this);
 }
 
-// Over when the event loop, or the first one inside, has come round again.
+// The hand has acted when the event loop, or the first one inside, has come round again.
 bool InputWatch::eventFilter(QObject*, QEvent* event) {
   if (!isHandActing_ && IsFromHand(event->type())) {
     isHandActing_ = true;

@@ -15,7 +15,7 @@ constexpr std::array Signals{SIGTERM, SIGHUP, SIGINT};
 OutsideEnd* current = nullptr;
 volatile std::sig_atomic_t signalEnd = -1;
 
-// Only what may be done in a signal handler.
+// Does only what may be done in a signal handler.
 void PassOn(int signal) {
   const int error = errno;
   const auto number = static_cast<unsigned char>(signal);

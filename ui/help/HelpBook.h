@@ -6,8 +6,8 @@
 #include <QTemporaryDir>
 #include <QUrl>
 
-// The help file, open for reading. The collection that Qt wants to write beside it lies in
-// a private temporary directory, so the program directory may be read-only.
+// The help file, open for reading. The collection that Qt wants to write beside it lies in a
+// private temporary directory, so the program directory may be read-only.
 class HelpBook {
  public:
   // A file that is missing or damaged is told by Error(); the book is then empty.

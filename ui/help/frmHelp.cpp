@@ -25,7 +25,7 @@ constexpr const char* FirstPage = "welcome.html";
 
 QSize DesignedSize(const QWidget& window) {
   const QFontMetrics metrics = window.fontMetrics();
-  // Not in average letters, which are twice as wide in a Japanese font.
+  // Not counted in average letters, since these are twice as wide in a Japanese font.
   const QSize wanted(metrics.height() * 60, metrics.height() * 42);
   return wanted.boundedTo(window.screen()->availableSize() * 9 / 10);
 }

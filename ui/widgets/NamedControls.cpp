@@ -9,7 +9,7 @@
 QGroupBox* AddFrame(QWidget* parent, const char* name, const QString& caption) {
   auto* frame = new QGroupBox(caption, parent);
   frame->setObjectName(name);
-  // Read aloud without the blank and the colon.
+  // A screen reader has no use for the blank and the colon.
   frame->setAccessibleName(caption.trimmed().remove(':'));
   return frame;
 }

@@ -18,8 +18,8 @@ void PlaceDialog(QDialog& dialog, const QWidget& mainWindow);
 QPoint CentredPosition(const QSize& dialog, const QRect& mainWindow, const QRect& screen);
 
 // Places a dialog beside the main window, which moves aside where the screen has no room for both;
-// beside a maximised one means beside its board, which begins at its left.
-// Gives the main window's former position if it was moved, for the caller to put it back there.
+// beside a maximised one means beside its board, which begins at its left. Gives the main window's
+// former position if it was moved, for the caller to put it back there.
 std::optional<QPoint> PlaceBeside(QDialog& dialog, QWidget& mainWindow, const QWidget& board);
 
 // Top left corners, all in pixels of the desktop.
@@ -43,6 +43,6 @@ QPoint BroughtInside(const QRect& bounds, const QRect& screen);
 // The screen that most of the bounds lie on; the primary one where they lie on none.
 QRect ScreenOf(const QRect& bounds);
 
-// Bounds of which no title bar can be seen and grasped, with all screens in view, are brought onto
-// the nearest screen; others stay as they are.
+// Bounds whose title bar cannot be seen and grasped on any screen are brought onto the screen that
+// ScreenOf names; others stay as they are.
 QRect BroughtWithinReach(const QRect& bounds);

@@ -1,5 +1,7 @@
 #include "ui/windows/animations/frmAbout.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QEvent>
 #include <QFontInfo>
@@ -28,7 +30,7 @@ constexpr const char* Disclaimer =
 constexpr const char* Owner = "Made by the Gallopade Nova contributors. MIT licence.";
 
 constexpr QSize PictureSize(300, 225);
-// On a desktop of the usual letters; with those of the desktop they grow and shrink.
+// The widths with letters of the usual size; they grow and shrink with the letters.
 constexpr int TextWidth = 300;
 constexpr int SmallestTextWidth = 200;
 constexpr double UsualPoints = 9;
@@ -49,7 +51,7 @@ double LetterScale() {
   return QFontInfo(QApplication::font()).pointSizeF() / UsualPoints;
 }
 
-// No wider than there is room beside the picture, but for a bar to scroll with.
+// The texts are no wider than there is room beside the picture and a bar to scroll with.
 int TextWidthOn(int screenWidth) {
   const int room = screenWidth - PictureSize.width() - 3 * Gap - BarAndFrame;
   return std::max(std::min(qRound(TextWidth * LetterScale()), room), SmallestTextWidth);
@@ -159,7 +161,7 @@ void frmAbout::ShowPicture() {
   picAboutImage_->Clear(palette().color(QPalette::Window), PictureOrIcon());
 }
 
-// In the proportions of the picture box, with the picture in the middle of it.
+// Has the proportions of the picture box, and the picture in the middle of it.
 QPixmap frmAbout::PictureOrIcon() const {
   QPixmap canvas(PictureSize * devicePixelRatioF());
   canvas.setDevicePixelRatio(devicePixelRatioF());

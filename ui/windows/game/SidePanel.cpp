@@ -53,7 +53,7 @@ int SidePanel::NeededWidth() const {
          style()->pixelMetric(QStyle::PM_DockWidgetSeparatorExtent, nullptr, &window_);
 }
 
-// Only the width: the window becomes square again by its height.
+// Only the width changes: the window becomes square again by its height.
 void SidePanel::MakeRoom() {
   const int smallest = NeededWidth() + std::min(SmallestBoard, window_.Board().height());
   if (window_.HasGivenShape() || window_.width() >= smallest) return;

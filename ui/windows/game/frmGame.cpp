@@ -150,7 +150,7 @@ void frmGame::WorkChanged(WorkGuard::Change change) {
   if (PlayerMayAct() && guard_.IsCloseRequested()) CloseAsRequested();
 }
 
-// In the normal way, but only when nothing else is going on above the event loop.
+// The window closes in the normal way, but only when nothing else is going on in the event loop.
 void frmGame::CloseAsRequested() {
   QTimer::singleShot(CloseRetryMilliseconds, this, [this] {
     if (!guard_.IsCloseRequested()) return;

@@ -33,8 +33,8 @@ class BoardView;
 class QSessionManager;
 class frmHelp;
 
-// The main window: it owns the live game and is the only place where it changes. It forwards what
-// the player does to the game and to the commands, and shows what the game asks for.
+// The main window: it owns the live game, forwards what the player does to the game and to the
+// commands, and shows what the game asks for.
 class frmGame : public QMainWindow, public MainWindow {
   Q_OBJECT
 

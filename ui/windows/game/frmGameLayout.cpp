@@ -180,7 +180,7 @@ void frmGame::TickInSight() {
   if (!WindowsHavePlaces()) menuBar()->update();
 }
 
-// Also between the closing of a dialog and what follows from it.
+// It rests in a dialog, and also between its closing and what follows from that.
 bool frmGame::IsClockResting() const {
   return performing_ || QApplication::activeModalWidget() != nullptr;
 }
@@ -215,8 +215,8 @@ bool frmGame::HasGivenShape() const {
   return tiled_ || isMaximized() || isFullScreen();
 }
 
-// Qt says nothing of tiles. But nobody makes a window larger by hand as soon as he sees
-// it, and a window that is to fit into the screen is only made smaller.
+// Qt says nothing of tiles. But nobody makes a window larger by hand as soon as he sees it, and a
+// window that is to fit into the screen is only made smaller.
 void frmGame::FindOutWhetherTiled() {
   if (WindowsHavePlaces()) return;
   const bool isNew = sinceShown_.isValid() && !sinceShown_.hasExpired(OpeningMilliseconds);

@@ -6,7 +6,7 @@
 
 ShellCommand::ShellCommand() {
   process_.setStandardErrorFile(QProcess::nullDevice());
-  // In a group of its own, so that what the shell has started ends with it.
+  // The shell gets a group of its own, so that what it has started ends with it.
   process_.setChildProcessModifier([] { setsid(); });
   connect(&process_, &QProcess::finished, this, [this](int exitCode, QProcess::ExitStatus how) {
     Result result{.output = process_.readAllStandardOutput()};

@@ -168,7 +168,7 @@ void frmHistory::mnuEditPrint_Click() {
   ShowPrinting(Printing);
 }
 
-// One document at a time.
+// Only one document is printed at a time.
 void frmHistory::ShowPrinting(const QString& state) {
   lblPrinting_->setText(state);
   mnuEditPrint_->setEnabled(!printer_.IsPrinting());

@@ -71,7 +71,7 @@ QPixmap Sample(const QColor& color, const QMenu& menu) {
   return sample;
 }
 
-// The desktop's colours at this moment.
+// The samples have the desktop's colours of this moment.
 void ShowSamples(const QMenu& menu) {
   for (int index = 0; index < SystemColorCount; ++index) {
     EntryOf(menu, index)->setIcon(Sample(ResolveColor(SystemColor(index), menu.palette()), menu));
@@ -83,7 +83,7 @@ void ShowSamples(const QMenu& menu) {
 PreferenceMenus::PreferenceMenus(QWidget* parent)
     : mnuSystemColors_(new QMenu(parent)), mnuImageOptions_(new QMenu(parent)) {
   mnuSystemColors_->setObjectName("mnuSystemColors");
-  // Higher than a small screen it would break into columns.
+  // A menu that is higher than the screen would break into columns.
   mnuSystemColors_->setStyleSheet("QMenu { menu-scrollable: 1; }");
   mnuSystemColors_->setAccessibleName("System Colors");
   for (int index = 0; index < SystemColorCount; ++index) {

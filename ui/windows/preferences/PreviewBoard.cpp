@@ -52,7 +52,7 @@ bool IsMovingKey(int keyCode) {
          !IsClickKey(keyCode);
 }
 
-// Seen on every colour.
+// Black and white, one of which is seen on any colour.
 void DrawFocus(QPainter& painter, const QRect& cell) {
   painter.setPen(Qt::black);
   painter.drawRect(cell.adjusted(1, 1, -2, -2));

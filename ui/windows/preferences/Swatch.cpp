@@ -37,7 +37,7 @@ void PreviewImage::paintEvent(QPaintEvent*) {
   }
 }
 
-// Only what is seen of it, which may be a corner of a large picture.
+// Only what is seen of the picture is drawn, which may be a corner of a large one.
 void PreviewImage::PaintInTheMiddle(QPainter& painter) {
   QRect place(QPoint(), picture_.size());
   place.moveCenter(rect().center());

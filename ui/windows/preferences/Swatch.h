@@ -15,7 +15,7 @@ class PreviewImage : public QWidget {
 
   void SetPicture(const QImage& picture);
   bool HasPicture() const { return !picture_.isNull(); }
-  // 0 = stretched over the preview, 1 = in its own size in the middle.
+  // Stretched over the preview, or in its own size in the middle.
   void SetPositioning(Positioning positioning);
 
  protected:

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int ColumnGap = 12;
 constexpr int ButtonGap = 8;
-// Beside a button's caption.
+// The room beside a button's caption.
 constexpr int CaptionMargin = 16;
 
 // Options numbered from 0 in the order of their captions, each in the row after the one before.
@@ -75,7 +75,7 @@ void frmPreferences::AddChooser(int owner, QGridLayout& layout, int row) {
   swatch->Image().setAccessibleName(QString("%1 image").arg(names.part));
   layout.addWidget(button, row, 0);
   layout.addWidget(swatch, row, 1);
-  // As wide with one caption as with the other.
+  // The buttons are as wide with one caption as with the other.
   layout.setColumnMinimumWidth(
       0, fontMetrics().horizontalAdvance("Highlight Image...") + 2 * CaptionMargin);
   choosers_[owner] = {button, swatch};

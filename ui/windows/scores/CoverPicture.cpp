@@ -12,7 +12,7 @@ void CoverPicture::paintEvent(QPaintEvent*) {
   if (picture_.isNull()) return;
   const QSize devicePixels = size() * devicePixelRatioF();
   if (scaled_.size() != devicePixels) {
-    // Cut before it is scaled: a long and narrow picture would become enormous.
+    // The picture is cut before it is scaled: a long and narrow one would become enormous.
     const QSize shown = devicePixels.scaled(picture_.size(), Qt::KeepAspectRatio);
     QRect middle(QPoint(), shown.expandedTo(QSize(1, 1)));
     middle.moveCenter(picture_.rect().center());

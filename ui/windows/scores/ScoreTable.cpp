@@ -75,7 +75,7 @@ void ScoreTable::AddTitle(const char* name, int column, const QString& title) {
   label->setFont(BoldFont());
 }
 
-// Wide enough for what games bring; only the names take what is left.
+// The columns are wide enough for what games bring; only the names take what is left.
 void ScoreTable::SetColumnWidths() {
   const QFontMetrics metrics(BoldFont());
   const auto width = [&metrics](const char* text) { return metrics.size(0, text).width() + 1; };
@@ -86,7 +86,7 @@ void ScoreTable::SetColumnWidths() {
   grid_->setColumnStretch(Names, 1);
 }
 
-// Bold as well, for those who cannot tell the colour.
+// A red row is bold as well, for those who cannot tell the colour.
 void ScoreTable::SetRed(int row, bool red) {
   QPalette colors;
   if (red) colors.setColor(QPalette::Text, Qt::red);
