@@ -3,8 +3,8 @@
 #include <QCoreApplication>
 #include <QVersionNumber>
 
-void FinishSaving(Globals& globals) {
-  globals.ScoreFile.Save(Wait::AsLongAsItTakes);
+void FinishSaving(Globals& globals, Wait scores) {
+  globals.ScoreFile.Save(scores);
   globals.IniFile.Save(Wait::AMoment);
 }
 

@@ -13,9 +13,10 @@ struct Globals {
   Settings settings;
 };
 
-// Saves what could not be saved before: for the end of the program, when no window is open any
-// more. A score waits for as long as another copy of the program keeps its file to itself.
-void FinishSaving(Globals& globals);
+// Saves what could not be saved before: for the end of the program, when nobody looks at a window
+// any more. scores: how long they wait for another copy of the program that has the folder to
+// itself.
+void FinishSaving(Globals& globals, Wait scores);
 
 // The program's version in numbers; what is missing in the application's version text counts as 0.
 struct Version {

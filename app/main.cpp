@@ -24,6 +24,12 @@ std::string CommandLine(int argumentCount, char* arguments[]) {
   return line;
 }
 
+int Play(Globals& globals, const std::string& commandLine) {
+  frmGame window(globals);
+  window.Form_Load(commandLine);
+  return QApplication::exec();
+}
+
 }  // namespace
 
 int main(int argumentCount, char* arguments[]) {
@@ -39,9 +45,8 @@ int main(int argumentCount, char* arguments[]) {
 
   Globals globals;
   globals.ProgramDirectory = QCoreApplication::applicationDirPath() + "/";
-  frmGame window(globals);
-  window.Form_Load(CommandLine(argumentCount, arguments));
-  const int result = QApplication::exec();
-  FinishSaving(globals);
+  const int result = Play(globals, CommandLine(argumentCount, arguments));
+  // The window is gone, and a signal that comes now ends the program at once.
+  FinishSaving(globals, Wait::AsLongAsItTakes);
   return result;
 }

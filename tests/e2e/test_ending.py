@@ -1,6 +1,8 @@
 """Ends that come from outside: the session, signals, the display. Nothing is lost, nothing is left."""
 
 import configparser
+import fcntl
+import os
 import signal
 import subprocess
 import sys
@@ -14,6 +16,8 @@ PROGRAM_DIRECTORY = None
 TITLE = "^Gallopade Nova($|:| -)"
 HELP = "^Gallopade Nova Help$"
 SIGNALS = (signal.SIGTERM, signal.SIGHUP, signal.SIGINT)
+# One move, to A8, is left in it.
+NEARLY_OVER = "20\r\n1 2\r\n3 3\r\n2 1\r\n" + "-1 -1\r\n" * 61
 
 
 class EndingTest(unittest.TestCase):
@@ -37,14 +41,20 @@ class EndingTest(unittest.TestCase):
         return sorted(path.name for path in self.program.iterdir())
 
     def start(self):
-        self.process = self.desktop.start_program(self.program / "GallopadeNova")
+        self.start_with()
+        self.desktop.press("Right", "Down", "Down", "Return")
+        self.caption_has(": 2 - ")
+        self.hide_time(": 2")
+
+    def start_with(self, *arguments):
+        self.process = self.desktop.start_program(self.program / "GallopadeNova", *arguments)
         self.addCleanup(self.end)
         self.game = self.desktop.window(TITLE)
         self.desktop.focus(self.game)
-        self.desktop.press("Right", "Down", "Down", "Return")
-        self.caption_has(": 2 - ")
+
+    def hide_time(self, rest):
         self.desktop.press("alt+v", "t")
-        wait_for(lambda: self.desktop.title(self.game).endswith(": 2"), "the time to be hidden")
+        wait_for(lambda: self.desktop.title(self.game).endswith(rest), "the time to be hidden")
 
     def end(self):
         self.process.kill()
@@ -121,6 +131,55 @@ class Signals(EndingTest):
         self.desktop.press("F1")
         self.desktop.window(HELP)
         self.assertIsNone(self.process.poll())
+
+
+class AnotherCopy(EndingTest):
+    """It has the folder to itself, until the program has seen the signal and cleared up."""
+
+    def setUp(self):
+        super().setUp()
+        self.lock = os.open(self.program, os.O_RDONLY)
+        self.addCleanup(os.close, self.lock)
+
+    def ends_while_it_waits(self):
+        self.open_help()
+        fcntl.flock(self.lock, fcntl.LOCK_EX)
+        self.process.terminate()
+        wait_for(lambda: not list(self.temporary.iterdir()), "the signal to be seen")
+        fcntl.flock(self.lock, fcntl.LOCK_UN)
+        self.assertEqual(self.process.wait(20), -signal.SIGTERM)
+        self.settings_are_kept()
+
+    def test_is_waited_for(self):
+        self.start()
+        self.ends_while_it_waits()
+        self.nothing_is_left()
+
+    def test_is_not_waited_for_without_end(self):
+        self.start()
+        fcntl.flock(self.lock, fcntl.LOCK_EX)
+        self.process.terminate()
+        self.assertEqual(self.process.wait(20), -signal.SIGTERM)
+
+    def test_costs_no_score(self):
+        with tempfile.NamedTemporaryFile("w", suffix=".knight", newline="") as game:
+            game.write(NEARLY_OVER)
+            game.flush()
+            self.start_with(game.name)
+            self.caption_has(": 3 - ")
+        self.hide_time(": 3")
+        fcntl.flock(self.lock, fcntl.LOCK_EX)
+        self.desktop.press("Left", "Left", "Up", "Return")
+        self.answer(r"^Game Over\.\.\.$", "Return")
+        self.answer("^Low Scores$", "A", "n", "n", "Return", "alt+c")
+        self.desktop.focus(self.game)
+        self.ends_while_it_waits()
+        self.assertIn("Name 1=Ann", (self.program / "Scores.dat").read_text())
+
+    def answer(self, title, *keys):
+        self.desktop.focus(self.desktop.window(title))
+        self.desktop.press(*keys)
+        wait_for(lambda: not self.desktop.has_window(title), f"{title} to go")
 
 
 class TheDisplay(EndingTest):

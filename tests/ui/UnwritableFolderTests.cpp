@@ -125,6 +125,6 @@ TEST_F(WhileAnotherCopyIsStopped, TheProgramSavesItsScoresBeforeItEnds) {
   SaveScore(globals.ScoreFile, ScoreList::Low, {20, 0}, "Ann");
   EXPECT_TRUE(Close());
   LetItGoOn();
-  FinishSaving(globals);
+  FinishSaving(globals, Wait::AsLongAsItTakes);
   EXPECT_EQ(LowScores()[0].name, "Ann");
 }

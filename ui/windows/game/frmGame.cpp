@@ -188,9 +188,11 @@ void frmGame::CommitSession(QSessionManager& session) {
   SaveSettings();
 }
 
+// Whoever ends the program from outside does not wait for another copy for ever.
 void frmGame::LeaveUnasked() {
   SaveSettings();
   if (help_ != nullptr) help_->RemoveTemporaryFiles();
+  FinishSaving(globals_, Wait::AMoment);
 }
 
 void frmGame::Exit() {
