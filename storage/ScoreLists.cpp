@@ -32,7 +32,7 @@ ScoreRow ReadRow(const IniValues& values, const QString& section, std::size_t ro
 }
 
 const ScoreRow& RowAt(const ScoreRows& rows, int place) {
-  return rows[static_cast<std::size_t>(place)];
+  return rows.at(static_cast<std::size_t>(place));
 }
 
 int MovesAt(const ScoreRows& rows, int place) {

@@ -51,6 +51,9 @@ Complaint AboutRows(const GameState& state) {
     if (!IsOnBoard(row) && (made || !(row == EmptyMove))) {
       return "row " + std::to_string(i) + " names no square";
     }
+    if (i > 0 && IsOnBoard(row) && !IsOnBoard(state.MoveList[i - 1])) {
+      return "row " + std::to_string(i) + " was left when those before it were cleared";
+    }
   }
   return {};
 }
