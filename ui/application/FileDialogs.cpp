@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMimeDatabase>
 #include <QScreen>
