@@ -14,6 +14,7 @@ from desktop import Desktop, copy_of_program, need, wait_for
 
 PROGRAM_DIRECTORY = None
 TITLE = "^Gallopade Nova($|:| -)"
+SCORES = "^Low Scores$"
 HELP = "^Gallopade Nova Help$"
 SIGNALS = (signal.SIGTERM, signal.SIGHUP, signal.SIGINT)
 # One move, to A8, is left in it.
@@ -68,6 +69,21 @@ class EndingTest(unittest.TestCase):
         self.desktop.window(HELP)
         self.assertTrue(list(self.temporary.iterdir()))
 
+    def enter_a_score(self):
+        with tempfile.NamedTemporaryFile("w", suffix=".knight", newline="") as game:
+            game.write(NEARLY_OVER)
+            game.flush()
+            self.start_with(game.name)
+            self.caption_has(": 3 - ")
+        self.hide_time(": 3")
+        self.desktop.press("Left", "Left", "Up", "Return")
+        self.desktop.focus(self.desktop.window(r"^Game Over\.\.\.$"))
+        self.desktop.press("Return")
+        self.desktop.focus(self.desktop.window(SCORES))
+
+    def score_is_kept(self, line):
+        self.assertIn(line, (self.program / "Scores.dat").read_text().splitlines())
+
     def settings_are_kept(self):
         settings = configparser.ConfigParser(strict=False)
         settings.optionxform = str
@@ -116,6 +132,13 @@ class Signals(EndingTest):
         self.desktop.press("alt+s")
         self.ends_by(signal.SIGTERM)
 
+    def test_are_obeyed_while_a_score_is_entered(self):
+        self.enter_a_score()
+        self.process.send_signal(signal.SIGTERM)
+        self.assertEqual(self.process.wait(20), -signal.SIGTERM)
+        self.settings_are_kept()
+        self.score_is_kept("Moves 1=4")
+
     def test_are_obeyed_one_after_the_other(self):
         self.start()
         for number in SIGNALS:
@@ -162,24 +185,14 @@ class AnotherCopy(EndingTest):
         self.assertEqual(self.process.wait(20), -signal.SIGTERM)
 
     def test_costs_no_score(self):
-        with tempfile.NamedTemporaryFile("w", suffix=".knight", newline="") as game:
-            game.write(NEARLY_OVER)
-            game.flush()
-            self.start_with(game.name)
-            self.caption_has(": 3 - ")
-        self.hide_time(": 3")
+        self.enter_a_score()
         fcntl.flock(self.lock, fcntl.LOCK_EX)
-        self.desktop.press("Left", "Left", "Up", "Return")
-        self.answer(r"^Game Over\.\.\.$", "Return")
-        self.answer("^Low Scores$", "A", "n", "n", "Return", "alt+c")
+        self.desktop.type("Ann")
+        self.desktop.press("Return", "alt+c")
+        wait_for(lambda: not self.desktop.has_window(SCORES), "the scores to go")
         self.desktop.focus(self.game)
         self.ends_while_it_waits()
-        self.assertIn("Name 1=Ann", (self.program / "Scores.dat").read_text())
-
-    def answer(self, title, *keys):
-        self.desktop.focus(self.desktop.window(title))
-        self.desktop.press(*keys)
-        wait_for(lambda: not self.desktop.has_window(title), f"{title} to go")
+        self.score_is_kept("Name 1=Ann")
 
 
 class TheDisplay(EndingTest):

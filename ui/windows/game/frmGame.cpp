@@ -19,6 +19,7 @@
 #include "ui/commands/GameFiles.h"
 #include "ui/help/frmHelp.h"
 #include "ui/windows/game/SidePanel.h"
+#include "ui/windows/scores/frmScores.h"
 
 namespace {
 
@@ -191,6 +192,7 @@ void frmGame::CommitSession(QSessionManager& session) {
 // Whoever ends the program from outside does not wait for another copy for ever.
 void frmGame::LeaveUnasked() {
   SaveSettings();
+  for (frmScores* scores : findChildren<frmScores*>()) scores->KeepScore();
   if (help_ != nullptr) help_->RemoveTemporaryFiles();
   FinishSaving(globals_, Wait::AMoment);
 }

@@ -253,9 +253,13 @@ void frmScores::done(int) {
 void frmScores::Leave(ScoresAnswer answer) {
   const bool pending = !txtHighScore_->isHidden() && HoldsName();
   if (pending && !txtHighScore_Validate()) return;
+  KeepScore();
+  answer_ = answer;
+  QDialog::done(Accepted);
+}
+
+void frmScores::KeepScore() {
   const QString name = HoldsName() ? txtHighScore_->text() : QString();
   if (inserted_) SaveScore(context_.globals.ScoreFile, list_, *inserted_, name);
   inserted_.reset();
-  answer_ = answer;
-  QDialog::done(Accepted);
 }

@@ -40,6 +40,9 @@ class frmScores : public SecondaryWindow {
   // False when the text is no name: the player has then been told so and is back in the box.
   bool txtHighScore_Validate();
 
+  // Saves the list if it has changed, under the name that has been entered so far.
+  void KeepScore();
+
   // Every other way of closing ends here; it counts as Close.
   void done(int result) override;
 
