@@ -11,30 +11,37 @@ import time
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "tests" / "e2e"))
-from desktop import Desktop, copy_of_program, wait_for  # noqa: E402
+from desktop import Desktop, copy_of_program  # noqa: E402
 
-RUNS = 11
+RUNS = 21
 IDLE_SECONDS = 20
 TICKS_PER_SECOND = os.sysconf("SC_CLK_TCK")
 
 
-def clients(desktop):
-    return desktop.run("xprop", "-root", "_NET_CLIENT_LIST").count("0x")
+class Starts:
+    """Programs that are started on a desktop, one at a time, as its window manager tells of them."""
 
+    def __init__(self, desktop):
+        self.desktop = desktop
+        self.news = desktop.watch("xprop", "-spy", "-root", "_NET_CLIENT_LIST").stdout
+        self.news.readline()
 
-def start(desktop, program):
-    """The process, and the seconds until its window was mapped."""
-    begun = time.monotonic()
-    process = desktop.start_program(program)
-    wait_for(lambda: clients(desktop) > 0, "a mapped window")
-    return process, time.monotonic() - begun
+    def wait_for_windows(self, wanted):
+        while ("0x" in self.news.readline()) != wanted:
+            pass
 
+    def start(self, program):
+        """The process, and the seconds until its window was mapped."""
+        begun = time.monotonic()
+        process = self.desktop.start_program(program)
+        self.wait_for_windows(True)
+        return process, time.monotonic() - begun
 
-def stop(desktop, process):
-    process.kill()
-    process.wait()
-    desktop.processes.remove(process)
-    wait_for(lambda: clients(desktop) == 0, "the window to go")
+    def stop(self, process):
+        process.kill()
+        process.wait()
+        self.desktop.processes.remove(process)
+        self.wait_for_windows(False)
 
 
 def resident_megabytes(process):
@@ -53,7 +60,7 @@ def cpu_ticks(process):
     return int(fields[11]) + int(fields[12])
 
 
-def measure(desktop, *programs):
+def measure(starts, *programs):
     """For each program the medians of its seconds, processor's milliseconds and megabytes.
 
     The programs take turns, so that what else the machine does weighs on all of them.
@@ -61,22 +68,22 @@ def measure(desktop, *programs):
     results = [([], [], []) for _ in programs]
     for _ in range(RUNS):
         for program, (seconds, milliseconds, megabytes) in zip(programs, results):
-            process, mapped_after = start(desktop, program)
+            process, mapped_after = starts.start(program)
             time.sleep(0.5)
             seconds.append(mapped_after)
             milliseconds.append(processor_milliseconds(process))
             megabytes.append(resident_megabytes(process))
-            stop(desktop, process)
+            starts.stop(process)
     return [tuple(map(statistics.median, result)) for result in results]
 
 
-def idle_ticks(desktop, program):
-    process, _ = start(desktop, program)
+def idle_ticks(starts, program):
+    process, _ = starts.start(program)
     time.sleep(2)
     before = cpu_ticks(process)
     time.sleep(IDLE_SECONDS)
     ticks = cpu_ticks(process) - before
-    stop(desktop, process)
+    starts.stop(process)
     return ticks
 
 
@@ -85,8 +92,9 @@ def main():
     with Desktop() as desktop, tempfile.TemporaryDirectory() as folder:
         desktop.environment.pop("QT_LINUX_ACCESSIBILITY_ALWAYS_ON")
         copy = copy_of_program(program.parent, folder) / program.name
-        floor, game = measure(desktop, empty_window, copy)
-        ticks = idle_ticks(desktop, copy)
+        starts = Starts(desktop)
+        floor, game = measure(starts, empty_window, copy)
+        ticks = idle_ticks(starts, copy)
     for what, factor, unit, at_floor, at_game in zip(
             ("mapped after", "processor", "resident"), (1000, 1, 1), ("ms", "ms", "MB"), floor, game):
         print(f"{what:13} {at_game * factor:6.1f} {unit}   empty window {at_floor * factor:6.1f} {unit}"

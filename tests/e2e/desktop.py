@@ -104,6 +104,10 @@ class Desktop:
         return subprocess.run(command, env=self.environment, check=False, capture_output=True,
                               text=True).stdout
 
+    def watch(self, *command):
+        """A command that goes on telling what happens on this desktop."""
+        return self._start(command, stdout=subprocess.PIPE, text=True)
+
     def start_program(self, program, *arguments):
         """Arguments are paths, texts or the bytes of a name."""
         return self._start([program, *arguments], cwd=self.folder)

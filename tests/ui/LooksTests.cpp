@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "core/Square.h"
+#include "core/Twips.h"
 #include "tests/ui/Contrast.h"
 #include "tests/ui/PreferencesDesk.h"
 #include "ui/board/BoardView.h"
@@ -198,4 +199,12 @@ TEST_F(Looks, InTheDesktopsColorsFollowTheDesktop) {
     }
   }
   QApplication::setPalette(usual);
+}
+
+TEST_F(Looks, CentrePicturesFromTheStartOn) {
+  Open("[Chessboard]\nImage Positioning=1\nLight Image=Wood Light.gif\n");
+  const BoardCell& cell = Window().Board().Model().Cell(SquareIndex(5, 6));
+  EXPECT_DOUBLE_EQ(cell.imageWidth, TwipsFromPixels(256));
+  EXPECT_LT(cell.imageLeft, 0);
+  EXPECT_DOUBLE_EQ(cell.imageLeft, cell.imageTop);
 }

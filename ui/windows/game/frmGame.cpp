@@ -57,6 +57,9 @@ void frmGame::Form_Load(const std::string& commandLine) {
   connect(qApp, &QGuiApplication::commitDataRequest, this, &frmGame::CommitSession,
           Qt::DirectConnection);
   ShowWindow();
+  // While the desktop makes room for the window; nothing of it is painted before.
+  ReadPictures();
+  RestoreColors();
   if (const auto fileName = GameFileOf(commandLine)) {
     OpenGameFile(PathFromBytes(QByteArray::fromStdString(*fileName)));
   }
@@ -65,7 +68,7 @@ void frmGame::Form_Load(const std::string& commandLine) {
 void frmGame::SetUp() {
   OpenSettingsAndPlaceWindow();
   CreateBoard();
-  LoadGameSetup();
+  ReadSettings();
 }
 
 bool frmGame::Perform(const std::function<void()>& deed) {
@@ -202,14 +205,22 @@ void frmGame::Exit() {
 }
 
 void frmGame::LoadGameSetup() {
+  ReadSettings();
+  ReadPictures();
+}
+
+void frmGame::ReadSettings() {
   Settings& settings = globals_.settings;
   LoadSettings(globals_.IniFile.Values(), globals_.ProgramDirectory, settings);
   SetMenuChecked(MenuEntry::mnuViewTime, settings.ShowTime);
   SetMenuChecked(MenuEntry::mnuViewScore, settings.ShowScore);
   board_->SetCornerDistance(settings.CornerDistance);
   board_->SetBackground(settings.ChessboardBackgroundColor, settings.UseImages);
-  if (!settings.UseImages) return;
-  // Pictures that once ended the program would end it at every start.
+}
+
+// Pictures that once ended the program would end it at every start.
+void frmGame::ReadPictures() {
+  if (!globals_.settings.UseImages) return;
   const AttemptMark mark(globals_.ProgramDirectory + ReadingMark);
   if (mark.WasCutShortBefore()) {
     board_->SetPictures({});

@@ -96,6 +96,8 @@ class frmGame : public QMainWindow, public MainWindow {
 
  private:
   void SetUp();
+  void ReadSettings();
+  void ReadPictures();
   void OpenSettingsAndPlaceWindow();
   void CreateBoard();
   void ShowWindow();
