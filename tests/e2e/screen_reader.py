@@ -4,6 +4,8 @@ import re
 
 from desktop import wait_for
 
+# What is asked waits so long for an answer; a busy machine needs more than the usual second.
+ANSWER_MILLISECONDS = 20000
 HEARD = ("object:state-changed:focused", "object:property-change:accessible-name",
          "object:property-change:accessible-description", "window:activate")
 # What must have a name, whether or not it takes the keyboard. The bars of a scroll area are part of it.
@@ -21,6 +23,7 @@ class ScreenReader:
         from gi.repository import GLib
 
         self.atspi = pyatspi
+        pyatspi.setTimeout(ANSWER_MILLISECONDS, ANSWER_MILLISECONDS)
         self.context = GLib.MainContext.default()
         self.heard = []
         pyatspi.Registry.registerEventListener(self._hear, *HEARD)

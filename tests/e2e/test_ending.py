@@ -10,7 +10,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from desktop import Desktop, copy_of_program, need, wait_for
+from desktop import Desktop, copy_of_program, exit_status, need, wait_for
 
 PROGRAM_DIRECTORY = None
 TITLE = "^Gallopade Nova($|:| -)"
@@ -97,7 +97,7 @@ class EndingTest(unittest.TestCase):
 
     def ends_by(self, number):
         self.process.send_signal(number)
-        self.assertEqual(self.process.wait(20), -number)
+        self.assertEqual(exit_status(self.process), -number)
         self.settings_are_kept()
         self.nothing_is_left()
 
@@ -143,7 +143,7 @@ class Signals(EndingTest):
         self.start()
         for number in SIGNALS:
             self.process.send_signal(number)
-        self.assertIn(-self.process.wait(20), SIGNALS)
+        self.assertIn(-exit_status(self.process), SIGNALS)
         self.settings_are_kept()
 
     def test_that_the_caller_ignores_stay_ignored(self):
@@ -202,7 +202,7 @@ class TheDisplay(EndingTest):
         x_server = self.desktop.processes[0]
         x_server.kill()
         x_server.wait()
-        self.process.wait(20)
+        exit_status(self.process)
         self.settings_are_kept()
         self.nothing_is_left()
 
@@ -255,7 +255,7 @@ class TheSession(EndingTest):
         self.assertEqual(self.told(), "saved")
         self.settings_are_kept()
         self.say("die")
-        self.assertEqual(self.process.wait(20), 0)
+        self.assertEqual(exit_status(self.process), 0)
         self.nothing_is_left()
 
     def test_asks_behind_no_dialog(self):
@@ -265,7 +265,7 @@ class TheSession(EndingTest):
         self.answer("alt+y")
         self.assertEqual(self.told(), "saved")
         self.say("die")
-        self.assertEqual(self.process.wait(20), 0)
+        self.assertEqual(exit_status(self.process), 0)
         self.settings_are_kept()
 
     def test_asks_nothing_where_that_is_forbidden(self):
@@ -282,7 +282,7 @@ class TheSession(EndingTest):
         self.assertEqual(self.told(), "saved")
         self.settings_are_kept()
         self.say("die")
-        self.assertEqual(self.process.wait(20), 0)
+        self.assertEqual(exit_status(self.process), 0)
 
     def test_that_was_to_end_asks_again_after_another_move(self):
         self.say("end")

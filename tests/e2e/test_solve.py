@@ -6,7 +6,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from desktop import Desktop, copy_of_program, wait_for
+from desktop import Desktop, copy_of_program, exit_status, wait_for
 
 PROGRAM_DIRECTORY = None
 TITLE = "^Gallopade Nova"
@@ -62,7 +62,7 @@ class BadMoments(unittest.TestCase):
         self.desktop.close(self.game)
         self.desktop.window(r"^Exit\?$")
         self.desktop.press("alt+y")
-        self.assertEqual(self.process.wait(20), 0)
+        self.assertEqual(exit_status(self.process), 0)
 
     def test_the_window_manager_closes_the_solve_window_during_a_search(self):
         for _ in range(TIMES):
