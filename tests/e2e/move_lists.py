@@ -21,7 +21,7 @@ class MoveListTest(unittest.TestCase):
 
     def open_move_history(self):
         program = self.desktop.start_program(self.program, GAME)
-        game = self.desktop.window("^Gallopade Nova: 40 ")
+        game = self.desktop.opened_game(40)
         self.desktop.focus(game)
         self.choose("alt+v", "m")
         self.desktop.focus(self.desktop.window("^Move History$"))

@@ -55,6 +55,7 @@ class AccessibilityTest(unittest.TestCase):
         path = self.folder / "a game.knight"
         path.write_text("".join(line + "\r\n" for line in lines), newline="")
         self.start(path)
+        self.desktop.opened_game(len(squares))
 
     def cell(self, name):
         column, row = ord(name[0]) - ord("A"), 8 - int(name[1])
@@ -227,6 +228,7 @@ class Windows(AccessibilityTest):
         return window
 
     def leaves(self, title, question=None):
+        self.desktop.focus(self.desktop.window(title))
         self.desktop.press("Escape")
         if question:
             self.press_button(self.names_everything(question), "Yes")

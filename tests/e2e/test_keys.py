@@ -18,12 +18,12 @@ def moves_of_tour():
 
 class HeldKeys(unittest.TestCase):
     def setUp(self):
-        self.desktop = self.enterContext(Desktop())
+        self.desktop = self.enterContext(Desktop(x_server_options=["r"]))
         self.folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
         self.program = copy_of_program(PROGRAM_DIRECTORY, self.folder) / "GallopadeNova"
 
-    def start(self, *arguments):
-        self.desktop.start_program(self.program, *arguments)
+    def start(self):
+        self.desktop.start_program(self.program)
         self.game = self.desktop.window(TITLE)
         self.desktop.focus(self.game)
 
@@ -36,8 +36,9 @@ class HeldKeys(unittest.TestCase):
         game = self.folder / "63 moves.knight"
         lines = ["20"] + [f"{x} {y}" for x, y in moves[:63]] + ["-1 -1"]
         game.write_text("".join(line + "\r\n" for line in lines))
-        self.start(game)
-        self.caption_begins("Gallopade Nova: 63 ")
+        self.desktop.start_program(self.program, game)
+        self.game = self.desktop.opened_game(63)
+        self.desktop.focus(self.game)
         (x, y), (last_x, last_y) = moves[62:64]
         self.desktop.press(*["Right" if last_x > x else "Left"] * abs(last_x - x),
                            *["Down" if last_y > y else "Up"] * abs(last_y - y))
@@ -47,22 +48,26 @@ class HeldKeys(unittest.TestCase):
         self.desktop.press("Right", "Down", "Down", "Return")
         self.caption_begins("Gallopade Nova: 2 ")
 
-    def choose_holding(self, menu, way, key="Return"):
-        """Goes to an entry of a menu and holds down the key that chooses it."""
+    def go_to_entry(self, menu, *way):
         before = self.windows()
         self.desktop.press(menu)
         wait_for(lambda: self.windows() > before, "the menu")
         self.desktop.press(*way)
-        self.desktop.hold(key)
 
-    def windows(self):
-        return len(self.desktop.run("xdotool", "search", "--onlyvisible", "--name", "").split())
+    def windows(self, title=""):
+        return len(self.desktop.run("xdotool", "search", "--onlyvisible", "--name",
+                                    title).split())
 
     def stands(self, title):
         """The window is there, has the keyboard and was not answered: the next key answers it."""
         window = self.desktop.window(title)
         wait_for(lambda: self.desktop.focused() == window, f"the keyboard in {title}")
         return window
+
+    def only_opens(self, key, title):
+        """Held down, the key opens the window and does nothing in it."""
+        self.desktop.hold(key, until=lambda: self.stands(title))
+        return self.stands(title)
 
     def scores_are_untouched(self):
         self.assertFalse((self.program.parent / "Scores.dat").exists())
@@ -71,12 +76,9 @@ class HeldKeys(unittest.TestCase):
         for key in ("Return", "space"):
             with self.subTest(key=key):
                 self.start_before_the_last_move()
-                self.desktop.hold(key)
-                for title in ("^You Win!$", r"^Game Over\.\.\.$"):
-                    self.stands(title)
+                for title in ("^You Win!$", r"^Game Over\.\.\.$", "^High Scores$"):
+                    self.only_opens(key, title)
                     self.scores_are_untouched()
-                    self.desktop.hold(key)
-                scores = self.stands("^High Scores$")
                 self.desktop.type("Ann")
                 self.desktop.press("Return", "Escape")
                 wait_for(lambda: not self.desktop.has_window("^High Scores$"), "the scores to close")
@@ -89,8 +91,7 @@ class HeldKeys(unittest.TestCase):
         self.start_before_the_last_move()
         self.desktop.press("Return")
         self.stands("^You Win!$")
-        self.desktop.hold("Escape")
-        self.stands(r"^Game Over\.\.\.$")
+        self.only_opens("Escape", r"^Game Over\.\.\.$")
         self.scores_are_untouched()
 
     def test_a_question_of_the_menu_is_not_answered_by_the_key_that_chose_it(self):
@@ -100,8 +101,8 @@ class HeldKeys(unittest.TestCase):
             for key in ("Return", "KP_Enter"):
                 with self.subTest(question=question, key=key):
                     self.start_in_the_middle()
-                    self.choose_holding("alt+f", way, key)
-                    self.stands(question)
+                    self.go_to_entry("alt+f", *way)
+                    self.only_opens(key, question)
                     self.desktop.press("Escape")
                     wait_for(lambda: not self.desktop.has_window(question), "the question to go")
                     self.caption_begins("Gallopade Nova: 2 ")
@@ -115,22 +116,21 @@ class HeldKeys(unittest.TestCase):
         self.desktop.press("ctrl+o")
         self.stands("^Open$")
         self.desktop.type("no such game")
-        self.desktop.hold("Return")
-        self.assertEqual(self.count("^Open$"), 2)  # the dialog, and its message above it
-        self.desktop.hold("Escape")
-        wait_for(lambda: self.count("^Open$") == 1, "the message to go")
+        self.hold_until_there_are(2, "Return")  # the dialog, and its message above it
+        self.hold_until_there_are(1, "Escape")
         self.desktop.press("Escape")
         wait_for(lambda: not self.desktop.has_window("^Open$"), "the dialog to go")
 
-    def count(self, title):
-        return len(self.desktop.run("xdotool", "search", "--onlyvisible", "--name",
-                                    title).split())
+    def hold_until_there_are(self, number, key):
+        self.desktop.hold(key, until=lambda: wait_for(lambda: self.windows("^Open$") == number,
+                                                      f"{number} windows called Open"))
+        self.assertEqual(self.windows("^Open$"), number)
 
     def test_a_menu_chooses_nothing_by_the_letter_that_opened_it(self):
         self.start()
         before = self.windows()
-        self.desktop.hold("h", "alt")
-        wait_for(lambda: self.windows() > before, "the menu")
+        self.desktop.hold("alt", "h", until=lambda: wait_for(lambda: self.windows() > before,
+                                                             "the menu"))
         self.assertFalse(self.desktop.has_window("Help$"))
 
 

@@ -49,7 +49,7 @@ class PackagingTest(unittest.TestCase):
         desktop.environment = {name: desktop.environment[name] for name in
                                ("DISPLAY", "PATH", "DBUS_SESSION_BUS_ADDRESS")}
         desktop.start_program(program_directory / "GallopadeNova", game)
-        desktop.focus(desktop.window("^Gallopade Nova: 3 "))
+        desktop.focus(desktop.opened_game(3))
         desktop.press("F1")
         desktop.window(HELP)
 

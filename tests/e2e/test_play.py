@@ -71,7 +71,7 @@ class Play(unittest.TestCase):
         self.assertEqual(set(lines[7:65]), {b"-1 -1"})
 
         self.start(saved)
-        self.caption_begins("Gallopade Nova: 6 ")
+        self.desktop.opened_game(6)
         self.click_square(7, 0)  # not a knight's move away: nothing happens
         self.click_square(7, 1)
         self.caption_begins("Gallopade Nova: 7 ")
@@ -107,6 +107,11 @@ class Play(unittest.TestCase):
             self.caption_begins("Gallopade Nova: 40 ")
             self.process.kill()
             wait_for(self.ended, "the program to end")
+
+    def test_a8_is_at_the_top_left_also_where_people_write_from_right_to_left(self):
+        self.desktop.environment.update(LANG="ar_EG.UTF-8", LANGUAGE="ar")
+        self.start()
+        self.play()
 
     def test_a_game_is_opened_by_the_bytes_of_its_name(self):
         name = os.fsencode(self.folder) + b"/caf\xe9 \xf0\x9f.knight"
