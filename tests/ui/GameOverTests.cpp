@@ -1,4 +1,6 @@
+#include <QApplication>
 #include <QLabel>
+#include <QScreen>
 #include <QTest>
 
 #include "tests/ui/EndgameDesk.h"
@@ -21,6 +23,23 @@ TEST_F(GameOver, SaysHowTheGameEnded) {
   EXPECT_EQ(Child<QPushButton>(over, "cmdScoresReplay").text(), "&Submit to Scores");
   EXPECT_EQ(Child<QPushButton>(over, "cmdUndo").text(), "&Undo Last Move");
   EXPECT_FALSE(Child<QLabel>(over, "imgIcon").pixmap().isNull());
+}
+
+TEST_F(GameOver, ShowsItsWholeMessageInLettersTooLargeForOneLine) {
+  Open();
+  report.message = "Congratulations, you have mastered Gallopade Nova.";
+  const QFont usual = QApplication::font();
+  QFont large = usual;
+  large.setPointSize(28);
+  QApplication::setFont(large);
+  frmGameOver over(report, &Window());
+  over.show();
+  QApplication::setFont(usual);
+  const auto& lblMessage = Child<QLabel>(over, "lblMessage");
+  EXPECT_LE(over.width(), over.screen()->availableSize().width());
+  EXPECT_GE(lblMessage.height(), lblMessage.heightForWidth(lblMessage.width()));
+  EXPECT_FALSE(lblMessage.visibleRegion().isEmpty());
+  EXPECT_EQ(lblMessage.visibleRegion().boundingRect(), lblMessage.rect());
 }
 
 TEST_F(GameOver, OffersTheReplayInstead) {

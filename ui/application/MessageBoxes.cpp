@@ -1,7 +1,5 @@
 #include "ui/application/MessageBoxes.h"
 
-#include <algorithm>
-
 #include <QApplication>
 #include <QColorDialog>
 #include <QInputDialog>
@@ -9,17 +7,18 @@
 #include <QMessageBox>
 #include <QScreen>
 
+#include "ui/widgets/LongText.h"
+
 namespace {
 
 // Room beside the text for the icon and the box's own margins.
 constexpr int BoxMargin = 160;
 
 // The texts come in lines of their own; a box keeps them whole as far as the screen allows.
-void KeepLinesWhole(QMessageBox& box) {
+void KeepTextWhole(QMessageBox& box) {
   auto* label = box.findChild<QLabel*>("qt_msgbox_label");
   if (label == nullptr) return;
-  const int widest = label->fontMetrics().size(0, box.text()).width();
-  label->setMinimumWidth(std::min(widest + 1, box.screen()->availableSize().width() - BoxMargin));
+  KeepLinesWhole(*label, box.screen()->availableSize().width() - BoxMargin);
 }
 
 }  // namespace
@@ -34,7 +33,7 @@ bool AskQuestion(QWidget& mainWindow, const QString& title, const QString& text,
   QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No,
                   DialogParent(mainWindow));
   box.setTextFormat(Qt::PlainText);
-  KeepLinesWhole(box);
+  KeepTextWhole(box);
   box.setDefaultButton(defaultAnswer == DefaultAnswer::Yes ? QMessageBox::Yes : QMessageBox::No);
   return box.exec() == QMessageBox::Yes;
 }
@@ -44,7 +43,7 @@ void TellMessage(QWidget& mainWindow, const QString& title, const QString& text,
       icon == MessageIcon::Information ? QMessageBox::Information : QMessageBox::Warning;
   QMessageBox box(symbol, title, text, QMessageBox::Ok, DialogParent(mainWindow));
   box.setTextFormat(Qt::PlainText);
-  KeepLinesWhole(box);
+  KeepTextWhole(box);
   box.exec();
 }
 

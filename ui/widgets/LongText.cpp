@@ -1,5 +1,8 @@
 #include "ui/widgets/LongText.h"
 
+#include <algorithm>
+
+#include <QLabel>
 #include <QTextBoundaryFinder>
 
 namespace {
@@ -29,4 +32,10 @@ QString InLines(const QString& text, int charactersOfLine) {
     begin = end;
   }
   return lines + text.sliced(begin);
+}
+
+void KeepLinesWhole(QLabel& label, int width) {
+  const int widest = label.fontMetrics().size(0, label.text()).width();
+  label.setWordWrap(true);
+  label.setMinimumWidth(std::min(widest + 1, width));
 }

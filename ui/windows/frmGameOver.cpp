@@ -1,9 +1,13 @@
 #include "ui/windows/frmGameOver.h"
 
+#include <algorithm>
+
 #include <QLabel>
+#include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "ui/widgets/LongText.h"
 #include "ui/widgets/NamedControls.h"
 #include "ui/widgets/WindowPlacing.h"
 
@@ -14,6 +18,8 @@ constexpr int Margin = 18;
 constexpr int ButtonPadding = 16;
 constexpr int ButtonGap = 8;
 constexpr int MessageWidth = 240;
+// What is beside the message: the icon, the margins and the frame.
+constexpr int RoomBesideMessage = IconSide + 4 * Margin;
 
 QIcon Symbol(const QWidget& window) {
   const QIcon own = window.windowIcon();
@@ -27,7 +33,8 @@ frmGameOver::frmGameOver(const GameOverReport& report, QWidget* mainWindow)
   QLabel* imgIcon = AddLabel(this, "imgIcon", QString());
   imgIcon->setPixmap(Symbol(*this).pixmap(QSize(IconSide, IconSide), devicePixelRatioF()));
   QLabel* lblMessage = AddLabel(this, "lblMessage", QString::fromStdString(report.message));
-  lblMessage->setMinimumWidth(MessageWidth);
+  KeepLinesWhole(*lblMessage, mainWindow->screen()->availableSize().width() - RoomBesideMessage);
+  lblMessage->setMinimumWidth(std::max(lblMessage->minimumWidth(), MessageWidth));
 
   QPushButton* cmdScoresReplay =
       AddButton(this, "cmdScoresReplay", QString::fromStdString(report.buttonCaption),
