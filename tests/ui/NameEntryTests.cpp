@@ -1,5 +1,6 @@
 #include <QFile>
 #include <QLabel>
+#include <QProxyStyle>
 #include <QTest>
 
 #include "tests/ui/EndgameDesk.h"
@@ -10,6 +11,30 @@ using NameEntry = EndgameDesk;
 
 bool IsRed(const QLabel& label) {
   return label.palette().color(label.foregroundRole()) == QColor(255, 0, 0);
+}
+
+// A style as some desktops have it, with much room between the frame of a box and its text.
+class WideBoxes : public QProxyStyle {
+ public:
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                         const QWidget* widget) const override {
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    return type == CT_LineEdit ? size + QSize(2 * Room, 0) : size;
+  }
+  QRect subElementRect(SubElement element, const QStyleOption* option,
+                       const QWidget* widget) const override {
+    const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    return element == SE_LineEditContents ? rect.adjusted(Room, 0, -Room, 0) : rect;
+  }
+
+ private:
+  static constexpr int Room = 15;
+};
+
+// Where the cursor is, once the box has been painted with it in sight.
+int CursorPlace(NameBox& box) {
+  box.grab();
+  return box.inputMethodQuery(Qt::ImCursorRectangle).toRect().left();
 }
 
 constexpr const char* BetterAndWorse =
@@ -119,6 +144,20 @@ TEST_F(NameEntry, IsAsWideAsItsText) {
     const int narrow = BoxOf(scores).width();
     TypeName(scores, "Annabella");
     EXPECT_GT(BoxOf(scores).width(), narrow);
+    Press(scores, "cmdClose");
+  });
+}
+
+TEST_F(NameEntry, ShowsAllOfItsTextWhereTheStyleLeavesMuchFree) {
+  Open();
+  WideBoxes wide;
+  SubmitAGame([&wide](frmScores& scores) {
+    NameBox& box = BoxOf(scores);
+    box.setStyle(&wide);
+    TypeName(scores, "Annabella");
+    const int right = CursorPlace(box);
+    box.home(false);
+    EXPECT_GE(right - CursorPlace(box), box.fontMetrics().horizontalAdvance("Annabella"));
     Press(scores, "cmdClose");
   });
 }

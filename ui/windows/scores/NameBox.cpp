@@ -2,6 +2,22 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QStyle>
+#include <QStyleOptionFrame>
+
+namespace {
+
+// What every line edit leaves free at both ends of its text, and what its cursor takes.
+constexpr int MarginAndCursor = 5;
+
+}  // namespace
+
+int NameBox::WidthAround(int textWidth) const {
+  QStyleOptionFrame frame;
+  initStyleOption(&frame);
+  const QSize text(textWidth + MarginAndCursor, fontMetrics().height());
+  return style()->sizeFromContents(QStyle::CT_LineEdit, &frame, text, this).width();
+}
 
 // A player who comes back from another program, or from the box's own menu, has not left the box.
 void NameBox::focusInEvent(QFocusEvent* event) {

@@ -10,6 +10,9 @@ class NameBox : public QLineEdit {
  public:
   explicit NameBox(QWidget* parent) : QLineEdit(parent) {}
 
+  // The least width in which all of a text is seen that is so wide.
+  int WidthAround(int textWidth) const;
+
  signals:
   void Entered();
 

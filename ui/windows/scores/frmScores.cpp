@@ -183,9 +183,10 @@ void frmScores::ShowNameBox() {
 void frmScores::FitNameBox() {
   lblMeasureWidth_->setText(txtHighScore_->text());
   const QRect place = table_->NamePlace(editedRow_);
-  const int width =
-      std::min(lblMeasureWidth_->sizeHint().width() + BoxMargin, place.width() + 2 * BoxIndent);
-  QRect box(0, 0, width, txtHighScore_->sizeHint().height());
+  const int text = lblMeasureWidth_->sizeHint().width();
+  const int width = std::max(text + BoxMargin, txtHighScore_->WidthAround(text));
+  QRect box(0, 0, std::min(width, place.width() + 2 * BoxIndent),
+            txtHighScore_->sizeHint().height());
   box.moveCenter(place.center());
   box.moveLeft(place.left() - BoxIndent);
   txtHighScore_->setGeometry(box);
