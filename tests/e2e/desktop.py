@@ -1,6 +1,7 @@
 """A private desktop for the program: an X server, a window manager, a session bus and AT-SPI."""
 
 import os
+import re
 import shutil
 import signal
 import subprocess
@@ -16,7 +17,8 @@ HOLDING_SECONDS = 1
 SKIPPED = 77
 LAST_WORDS = 2000
 ANSWER_SECONDS = 5
-SPECK = " 1x1+"  # the windows that a frame is made of, and others that nobody sees
+# Windows that a frame is made of, and others that nobody sees.
+OF_NO_INTEREST = re.compile(r" 1x1\+|\(has no name\)|\d child(ren)?:$")
 QUESTIONS = (("xwininfo", "-root", "-tree"), ("xdotool", "getwindowfocus", "getwindowname"))
 
 desktops = []  # those that are entered
@@ -159,7 +161,7 @@ class Desktop:
                                     timeout=ANSWER_SECONDS).stdout
         except (OSError, subprocess.TimeoutExpired) as error:
             answer = str(error)
-        lines = [line for line in answer.splitlines() if SPECK not in line]
+        lines = [line for line in answer.splitlines() if not OF_NO_INTEREST.search(line)]
         return " ".join(question) + ":\n" + "\n".join(filter(None, lines))
 
     def run(self, *command):

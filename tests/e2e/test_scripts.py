@@ -20,6 +20,7 @@ SCRIPT = """
 set -euo pipefail
 source "$PACKAGING/packages.sh"
 source "$PACKAGING/virtual_display.sh"
+patience_seconds=300
 """
 VIEWING_SERVER = "#!/bin/sh\necho PORT=5999\nexec sleep 1000\n"
 
@@ -164,7 +165,7 @@ class VirtualDisplay(ScriptTest):
 
     def test_leaves_its_caller_alone(self):
         _, output, _ = self.run_script(
-            "bash -c \"$(declare -f); patience_seconds=20; show_on_virtual_display true\"\n"
+            "bash -c \"$(declare -f); patience_seconds=$patience_seconds; show_on_virtual_display true\"\n"
             "echo the caller goes on")
         self.assertIn("the caller goes on", output)
 
