@@ -1,11 +1,15 @@
+#include <QApplication>
 #include <QCheckBox>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QScreen>
 #include <QTest>
 
 #include "tests/ui/PreferencesDesk.h"
+#include "ui/application/MessageBoxes.h"
 #include "ui/board/BoardView.h"
 #include "ui/board/SystemColors.h"
 
@@ -17,6 +21,14 @@ const char* const ColorMode = "[Chessboard]\nUse Images=0\n";
 
 QString TitleOf(QWidget& window, const char* frame) {
   return Child<QGroupBox>(window, frame).title();
+}
+
+void ShowsItsButtons(QWidget& modal) {
+  auto& dialog = dynamic_cast<QDialog&>(modal);
+  const auto* buttons = dialog.findChild<QDialogButtonBox*>();
+  EXPECT_TRUE(dialog.screen()->availableGeometry().contains(dialog.frameGeometry()));
+  EXPECT_TRUE(dialog.rect().contains(QRect(buttons->mapTo(&dialog, QPoint()), buttons->size())));
+  dialog.reject();
 }
 
 }  // namespace
@@ -302,4 +314,17 @@ TEST_F(PreferencesWindow, HasNoTwoControlsOnOneKey) {
       keys += key + " ";
     }
   });
+}
+
+TEST_F(PreferencesWindow, KeepsTheButtonsOfItsDialogsInSightInLargeLetters) {
+  Open();
+  const QFont usual = QApplication::font();
+  QFont large = usual;
+  large.setPointSize(36);
+  QApplication::setFont(large);
+  for (int dialogs = 0; dialogs < 2; ++dialogs) WhenNextModalOpens(ShowsItsButtons);
+  ::ChooseColor(Window(), Qt::red);
+  ::InputBox(Window(), "Frame Width", "Enter the frame width (in pixels).", "16");
+  QApplication::setFont(usual);
+  EXPECT_TRUE(AllVisitsMade());
 }

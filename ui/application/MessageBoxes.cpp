@@ -8,6 +8,7 @@
 #include <QScreen>
 
 #include "ui/widgets/LongText.h"
+#include "ui/widgets/WindowPlacing.h"
 
 namespace {
 
@@ -48,17 +49,22 @@ void TellMessage(QWidget& mainWindow, const QString& title, const QString& text,
 }
 
 std::optional<QColor> ChooseColor(QWidget& mainWindow, const QColor& initial) {
-  QColorDialog dialog(initial, DialogParent(mainWindow));
+  QWidget* parent = DialogParent(mainWindow);
+  QColorDialog dialog(initial, parent);
+  PlaceDialog(dialog, *parent);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return dialog.selectedColor();
 }
 
 std::optional<QString> InputBox(QWidget& mainWindow, const QString& title, const QString& prompt,
                                 const QString& prefilled) {
-  QInputDialog dialog(DialogParent(mainWindow));
+  QWidget* parent = DialogParent(mainWindow);
+  QInputDialog dialog(parent);
   dialog.setWindowTitle(title);
   dialog.setLabelText(prompt);
   dialog.setTextValue(prefilled);
+  dialog.sizeHint();  // only then it has its controls
+  PlaceDialog(dialog, *parent);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return dialog.textValue();
 }
