@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr int MaximisedState = 2;  // the stored state; a normal window's is 0
+
 std::optional<double> ReadTwips(const IniValues& values, const char* key) {
   const QString text = values.Value("Settings", key);
   if (text.isEmpty()) return std::nullopt;
@@ -39,7 +41,10 @@ void AppendPlacement(std::vector<IniEntry>& entries, const WindowPlacement& plac
   const auto append = [&entries](const char* key, const std::optional<double>& twips) {
     if (twips) entries.push_back({"Settings", key, TextOfTwips(*twips)});
   };
-  if (!minimised) entries.push_back({"Settings", "State", QString::number(placement.State)});
+  if (!minimised) {
+    entries.push_back(
+        {"Settings", "State", QString::number(placement.Maximised ? MaximisedState : 0)});
+  }
   append("Left", placement.Left);
   append("Top", placement.Top);
   append("Height", placement.Height);
@@ -59,7 +64,7 @@ WindowPlacement WindowPlacementFrom(const IniValues& values) {
           .Top = ReadTwips(values, "Top"),
           .Height = ReadTwips(values, "Height"),
           .Width = ReadTwips(values, "Width"),
-          .State = LenientInt32(values.Value("Settings", "State"))};
+          .Maximised = LenientInt32(values.Value("Settings", "State")) == MaximisedState};
 }
 
 std::vector<IniEntry> ExitEntries(const Settings& settings, const WindowPlacement& placement,

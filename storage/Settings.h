@@ -42,7 +42,7 @@ struct WindowPlacement {
   std::optional<double> Top = std::nullopt;
   std::optional<double> Height = std::nullopt;
   std::optional<double> Width = std::nullopt;
-  int State = 0;  // 0 = normal, 2 = maximised
+  bool Maximised = false;
 };
 
 // Takes every setting afresh; one that is missing, empty or out of its range takes its default.

@@ -168,8 +168,8 @@ TEST_F(WindowPlacementFile, HasOnlyWhatIsPresent) {
 }
 
 TEST_F(WindowPlacementFile, IsThatOfANormalWindowUnlessItSaysMore) {
-  EXPECT_EQ(Read("").State, 0);
-  EXPECT_EQ(Read("State=2\n").State, 2);
+  EXPECT_FALSE(Read("").Maximised);
+  EXPECT_TRUE(Read("State=2\n").Maximised);
 }
 
 TEST_F(WindowPlacementFile, ReadsWhatIsNoNumberAsZero) {

@@ -5,7 +5,7 @@
 namespace {
 
 const WindowPlacement Somewhere{
-    .Left = 150.0, .Top = -22.5, .Height = 9600.0, .Width = 1000000.0, .State = 2};
+    .Left = 150.0, .Top = -22.5, .Height = 9600.0, .Width = 1000000.0, .Maximised = true};
 
 }  // namespace
 
@@ -130,7 +130,7 @@ TEST_F(WrittenSettings, AreReadBack) {
 
 TEST_F(WrittenSettings, DoNotDriftOverTenStarts) {
   WindowPlacement placement{
-      .Left = 1234.5, .Top = 7.25, .Height = 9601.0, .Width = 9603.0, .State = 0};
+      .Left = 1234.5, .Top = 7.25, .Height = 9601.0, .Width = 9603.0, .Maximised = false};
   for (int start = 0; start < 10; ++start) {
     Write(ExitEntries(Load(), placement, false));
     placement = WindowPlacementFrom(clsIniFile().ReadIniFileValues(PathOf("x.ini")));
@@ -141,12 +141,20 @@ TEST_F(WrittenSettings, DoNotDriftOverTenStarts) {
   EXPECT_EQ(placement.Width, 9603.0);
 }
 
+TEST_F(WrittenSettings, TellAMaximisedWindowByTwoAndANormalOneByZero) {
+  const auto stateOf = [](bool maximised) {
+    return ValuesOf(ExitEntries(Settings(), {.Maximised = maximised}, false))["Settings/State"];
+  };
+  EXPECT_EQ(stateOf(true), "2");
+  EXPECT_EQ(stateOf(false), "0");
+}
+
 TEST_F(WrittenSettings, KeepTheStoredStateWhenTheWindowIsMinimised) {
   Write(ExitEntries(Settings(), Somewhere, false));
-  Write(ExitEntries(Settings(), {.Left = 30.0, .State = 0}, true));
+  Write(ExitEntries(Settings(), {.Left = 30.0, .Maximised = false}, true));
   const WindowPlacement placement =
       WindowPlacementFrom(clsIniFile().ReadIniFileValues(PathOf("x.ini")));
-  EXPECT_EQ(placement.State, 2);
+  EXPECT_TRUE(placement.Maximised);
   EXPECT_EQ(placement.Left, 30.0);
 }
 

@@ -132,7 +132,7 @@ TEST_F(ChessboardFiles, BringTheRestOfTheSettingsFileUpToDate) {
   globals.settings.ShowTime = false;
   globals.settings.ShowScore = false;
   globals.settings.SolveRefreshRate = 5;
-  window.placement = {.Left = 150, .Top = 300, .Height = 4500, .Width = 4200, .State = 2};
+  window.placement = {.Left = 150, .Top = 300, .Height = 4500, .Width = 4200, .Maximised = true};
   Open(FileWith("a.chessboard", CompleteLook));
   const QByteArray stored = BytesOf(globals.IniFile.PathName());
   const QByteArray directory = globals.ProgramDirectory.toUtf8();

@@ -19,7 +19,6 @@
 
 namespace {
 
-constexpr int Maximised = 2;  // the stored window state
 // Room for a title bar and borders, whose size is not known before the window is shown.
 constexpr QSize DecorationAllowance(8, 48);
 
@@ -95,7 +94,7 @@ void frmGame::ApplyPlacement(const WindowPlacement& placement) {
   move(placedBounds_.topLeft());
   resize(placedBounds_.size());
   unsettled_ = placement;
-  if (placement.State != Maximised) return;
+  if (!placement.Maximised) return;
   unsettled_.reset();
   setWindowState(windowState() | Qt::WindowMaximized);
 }
@@ -131,7 +130,7 @@ WindowPlacement frmGame::Placement() const {
   const QRect bounds = NormalBounds();
   WindowPlacement placement{.Height = TwipsFromPixels(bounds.height()),
                             .Width = TwipsFromPixels(bounds.width()),
-                            .State = isMaximized() ? Maximised : 0};
+                            .Maximised = isMaximized()};
   if (WindowsHavePlaces()) {
     placement.Left = TwipsFromPixels(bounds.left());
     placement.Top = TwipsFromPixels(bounds.top());
