@@ -18,7 +18,7 @@ function(add_room name)
   add_library(gallopade_${name} STATIC ${ARGN})
   target_include_directories(gallopade_${name} PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(gallopade_${name} PRIVATE gallopade_warnings gallopade_hardening)
-  # Rooms with Qt get its own -fPIC after it.
+  # Rooms with Qt get the -fPIC of Qt after it.
   if(GALLOPADE_HARDENING)
     target_compile_options(gallopade_${name} PRIVATE -fPIE)
   endif()

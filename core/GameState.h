@@ -14,6 +14,9 @@ struct MoveRow {
 
 inline constexpr MoveRow EmptyMove{-1, -1};
 
+// A game of so many squares, more than half of the board, is a good one.
+inline constexpr int GoodGame = 33;
+
 // How a game begins. The numbers are those of the settings file; any other counts as random.
 enum class FirstSquare : std::int16_t { Stored = 0, PlayersChoice = 1, Random = 2 };
 

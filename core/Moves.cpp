@@ -5,9 +5,6 @@
 
 namespace {
 
-// Half of the board: a game that got further is a good one.
-constexpr int GoodGame = 33;
-
 std::string EndMessage(int moveCount) {
   if (moveCount == SquareCount) return "Congratulations, you have mastered Gallopade Nova.";
   if (moveCount >= GoodGame) return "Sorry, there are no more valid moves.";

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <tuple>
 
 #include <QFile>
 
@@ -10,8 +11,8 @@ namespace {
 
 constexpr mode_t ModeOfNewFiles = 0666;  // less the user's mask
 
-bool SetLength(int descriptor, off_t length) {
-  return ftruncate(descriptor, length) == 0;
+void SetLength(int descriptor, off_t length) {
+  std::ignore = ftruncate(descriptor, length);
 }
 
 bool IsFree(int descriptor) {

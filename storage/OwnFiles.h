@@ -4,3 +4,5 @@
 inline constexpr const char* SettingsFileName = "GallopadeNova.ini";
 inline constexpr const char* ScoreFileName = "Scores.dat";
 inline constexpr const char* HelpFileName = "GallopadeNova.hlp";
+// There only while the pictures of the look are read.
+inline constexpr const char* ReadingMarkName = ".gallopade-reading";

@@ -1,18 +1,13 @@
 #include "storage/ScoreLists.h"
 
 #include <algorithm>
-#include <tuple>
 
+#include "core/GameState.h"
 #include "core/NumberText.h"
 #include "core/TimeString.h"
 #include "storage/NumberParser.h"
 
 namespace {
-
-// Games of more squares than these belong to the high list.
-constexpr int MostLowMoves = 32;
-
-constexpr int RowCount = static_cast<int>(std::tuple_size_v<ScoreRows>);
 
 // "Name 1" .. "Name 10".
 QString KeyOf(const char* column, std::size_t row) {
@@ -41,10 +36,11 @@ int MovesAt(const ScoreRows& rows, int place) {
 
 int PlaceInLowList(const ScoreRows& rows, const FinishedGame& game) {
   int place = 0;
-  while (place < RowCount && MovesAt(rows, place) > 0 && MovesAt(rows, place) < game.totalMoves) {
+  while (place < ScoreRowCount && MovesAt(rows, place) > 0 &&
+         MovesAt(rows, place) < game.totalMoves) {
     ++place;
   }
-  while (place < RowCount && MovesAt(rows, place) == game.totalMoves &&
+  while (place < ScoreRowCount && MovesAt(rows, place) == game.totalMoves &&
          RowAt(rows, place).time <= game.totalTime) {
     ++place;
   }
@@ -52,7 +48,7 @@ int PlaceInLowList(const ScoreRows& rows, const FinishedGame& game) {
 }
 
 int PlaceInHighList(const ScoreRows& rows, const FinishedGame& game) {
-  int place = RowCount;
+  int place = ScoreRowCount;
   while (place > 0 && MovesAt(rows, place - 1) < game.totalMoves) --place;
   while (place > 0 && MovesAt(rows, place - 1) == game.totalMoves &&
          RowAt(rows, place - 1).time > game.totalTime) {
@@ -64,7 +60,7 @@ int PlaceInHighList(const ScoreRows& rows, const FinishedGame& game) {
 }  // namespace
 
 ScoreList ListOf(const FinishedGame& game) {
-  return game.totalMoves > MostLowMoves ? ScoreList::High : ScoreList::Low;
+  return game.totalMoves >= GoodGame ? ScoreList::High : ScoreList::Low;
 }
 
 QString ScoreSection(ScoreList list) {
@@ -109,7 +105,7 @@ void SaveScore(KeptFile& file, ScoreList list, const FinishedGame& game, const Q
   file.Change([=](const QByteArray& text) {
     ScoreRows rows = RowsFrom(IniValues(text), list);
     const int place = InsertionPlace(list, rows, game);
-    if (place == RowCount) return text;
+    if (place == ScoreRowCount) return text;
     InsertScore(rows, place, RowOf(game, name));
     return ReplaceIniValues(text, ScoreEntries(list, rows));
   });

@@ -20,7 +20,8 @@ struct ScoreRow {
 };
 
 // Rank 1 first.
-using ScoreRows = std::array<ScoreRow, 10>;
+inline constexpr int ScoreRowCount = 10;
+using ScoreRows = std::array<ScoreRow, ScoreRowCount>;
 
 enum class ScoreList { High, Low };
 
@@ -30,7 +31,7 @@ struct FinishedGame {
   std::int32_t totalTime;  // half-seconds
 };
 
-// The low list is for those who got stuck early.
+// The high list is for good games, the low one for those who got stuck early.
 ScoreList ListOf(const FinishedGame& game);
 
 // "High Scores" or "Low Scores": the section of the file, and the caption of the list.
@@ -39,8 +40,8 @@ QString ScoreSection(ScoreList list);
 // The rows of a list; what the values do not have stays empty.
 ScoreRows RowsFrom(const IniValues& values, ScoreList list);
 
-// The place 0..9 that the game takes among the rows, or 10 when it does not rank. A game that
-// equals another one goes below it.
+// The place 0..9 that the game takes among the rows, or ScoreRowCount when it does not rank. A game
+// that equals another one goes below it.
 int InsertionPlace(ScoreList list, const ScoreRows& rows, const FinishedGame& game);
 
 // Moves the rows from place 0..9 on down by one, drops the last one and puts in the new one.

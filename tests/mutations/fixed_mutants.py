@@ -1,7 +1,7 @@
 """Where a mutant is, what stands there, what stands there for once, and which check must notice."""
 
 MUTANTS = (
-    ("core/Moves.cpp", "GoodGame = 33", "GoodGame = 34", "core"),
+    ("core/GameState.h", "GoodGame = 33", "GoodGame = 34", "core"),
     ("core/Moves.cpp", "state_.MoveCount == 0 ? MenuChange", "state_.MoveCount == 1 ? MenuChange",
      "core"),
     ("core/Moves.cpp", "if (state_.ApplyingMoves) return;\n  window_.EnableClock(true);",
@@ -88,9 +88,9 @@ MUTANTS = (
      "  return StoredUnless(ClearFile(OpenFolder(place.folder), place));", "storage"),
     ("storage/SavingFile.cpp", "getrandom(&number, sizeof number, 0) != sizeof number", "false",
      "storage"),
-    ("storage/ScoreLists.cpp", "while (place < RowCount && MovesAt(rows, place) > 0 && ",
-     "while (MovesAt(rows, place) > 0 && ", "storage"),
-    ("storage/ScoreLists.cpp", "while (place < RowCount && MovesAt(rows, place) == game.totalMoves",
+    ("storage/ScoreLists.cpp", "while (place < ScoreRowCount && MovesAt(rows, place) > 0 &&",
+     "while (MovesAt(rows, place) > 0 &&", "storage"),
+    ("storage/ScoreLists.cpp", "while (place < ScoreRowCount && MovesAt(rows, place) == game.totalMoves",
      "while (MovesAt(rows, place) == game.totalMoves", "storage"),
     ("ui/commands/GameFiles.cpp", "if (const auto error = WriteFile(fileName, FormatGame(context.state))) {",
      "if (const auto error = WriteFile(fileName, FormatGame(context.state)); false) {", "ui"),
@@ -112,8 +112,8 @@ MUTANTS = (
      "if (true)", "ui"),
     ("ui/widgets/pictures/JpegSegments.cpp", "if (IsBesideThePicture(segment->marker)) continue;", "",
      "ui"),
-    ("ui/widgets/pictures/PngChunks.cpp",
-     "std::ranges::find(PictureChunks, name) != std::ranges::end(PictureChunks)", "true", "ui"),
+    ("ui/widgets/pictures/EncodedPicture.cpp",
+     "std::ranges::find(pictureChunks, name) != std::ranges::end(pictureChunks)", "true", "ui"),
     ("ui/widgets/pictures/MeteredBytes.cpp", "std::clock() >= until_", "false", "ui"),
     ("storage/AttemptMark.cpp", "status.st_size > 0", "status.st_size >= 0", "storage"),
     ("ui/windows/game/frmGame.cpp", "if (mark.WasCutShortBefore()) {", "if (false) {", "ui"),

@@ -18,7 +18,6 @@
 
 namespace {
 
-constexpr int CharactersOfLine = 60;
 constexpr int SizeColumn = 1;
 constexpr int DateColumn = 3;
 constexpr int ColumnMargin = 24;

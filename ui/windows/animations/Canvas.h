@@ -7,6 +7,10 @@
 
 #include "core/Random.h"
 
+// The time between two passes of an animation. A pass costs a fraction of a millisecond, so this
+// leaves nearly all of a core to others.
+inline constexpr int DrawIntervalMilliseconds = 40;
+
 // Whether the screen can show more colours than a palette of 256.
 bool HasManyColors(const QScreen& screen);
 

@@ -37,8 +37,6 @@ constexpr double UsualPoints = 9;
 constexpr int Gap = 16;
 constexpr int BarAndFrame = 32;
 constexpr int IconSide = 128;
-// A pass costs a fraction of a millisecond, so this leaves nearly all of a core to others.
-constexpr int DrawIntervalMilliseconds = 40;
 
 QString VersionText() {
   const Version version = ProgramVersion();

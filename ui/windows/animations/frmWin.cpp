@@ -15,8 +15,6 @@ namespace {
 constexpr const char* Text = "You Win!";
 constexpr QPointF TitlePlace(200, 1000);
 constexpr int OpeningPasses = 1001;
-// A pass costs a fraction of a millisecond, so this leaves nearly all of a core to others.
-constexpr int DrawIntervalMilliseconds = 40;
 
 QFont TitleFont() {
   return CanvasFont(80, true, true);

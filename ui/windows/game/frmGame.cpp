@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include "storage/AttemptMark.h"
+#include "storage/OwnFiles.h"
 #include "storage/PathName.h"
 #include "ui/application/AccessibleDialog.h"
 #include "ui/application/DoEvents.h"
@@ -23,7 +24,6 @@
 
 namespace {
 
-constexpr QLatin1StringView ReadingMark(".gallopade-reading");
 constexpr int CloseRetryMilliseconds = 100;
 // Every dialog draws its icons anew, and Qt would keep ten megabytes of them.
 constexpr int PixmapCacheKilobytes = 1024;
@@ -221,7 +221,7 @@ void frmGame::ReadSettings() {
 // Pictures that once ended the program would end it at every start.
 void frmGame::ReadPictures() {
   if (!globals_.settings.UseImages) return;
-  const AttemptMark mark(globals_.ProgramDirectory + ReadingMark);
+  const AttemptMark mark(globals_.ProgramDirectory + ReadingMarkName);
   if (mark.WasCutShortBefore()) {
     board_->SetPictures({});
   } else {

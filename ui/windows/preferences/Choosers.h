@@ -1,5 +1,7 @@
 #pragma once
 
+#include <iterator>
+
 #include "storage/Settings.h"
 
 // What one of the six chooser buttons chooses.
@@ -24,6 +26,8 @@ inline constexpr ChooserRow ChooserRows[] = {
     {"cmdFrame", "Frame", "picFrame", "imgFrame", &Settings::ChessboardBackgroundColor,
      &Settings::ChessboardBackgroundImage},
 };
+
+inline constexpr int ChooserCount = static_cast<int>(std::size(ChooserRows));
 
 // Their places in the table.
 inline constexpr int HighlightChooser = 4;

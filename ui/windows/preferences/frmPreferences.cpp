@@ -10,7 +10,6 @@
 #include "ui/widgets/WindowPlacing.h"
 #include "ui/widgets/pictures/PictureReader.h"
 #include "ui/windows/preferences/ChooserButton.h"
-#include "ui/windows/preferences/Choosers.h"
 #include "ui/windows/preferences/PreviewBoard.h"
 #include "ui/windows/preferences/Swatch.h"
 

@@ -4,6 +4,7 @@
 
 #include "ui/commands/CommandContext.h"
 #include "ui/widgets/SecondaryWindow.h"
+#include "ui/windows/preferences/Choosers.h"
 #include "ui/windows/preferences/PreferenceMenus.h"
 
 class ChooserButton;
@@ -24,7 +25,7 @@ class frmPreferences : public SecondaryWindow {
   // Both outlive the window.
   frmPreferences(const CommandContext& context, QWidget* mainWindow);
 
-  // owner: a chooser by its place in the order Light, Dark, Visited, Knight, Highlight, Frame.
+  // owner: a chooser by its place among ChooserRows.
   void Chooser_Click(int owner);
   void Chooser_MouseUp(int owner);
   void mnuSystemColorsEntry_Click(int index);
@@ -37,8 +38,6 @@ class frmPreferences : public SecondaryWindow {
   void cmdClearScores_Click();
 
  private:
-  static constexpr int ChooserCount = 6;
-
   struct Chooser {
     ChooserButton* button = nullptr;
     Swatch* swatch = nullptr;

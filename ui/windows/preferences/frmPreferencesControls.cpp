@@ -9,7 +9,6 @@
 
 #include "ui/widgets/NamedControls.h"
 #include "ui/windows/preferences/ChooserButton.h"
-#include "ui/windows/preferences/Choosers.h"
 #include "ui/windows/preferences/PreviewBoard.h"
 #include "ui/windows/preferences/Swatch.h"
 #include "ui/windows/preferences/frmPreferences.h"

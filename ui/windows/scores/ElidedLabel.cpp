@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr int CharactersOfLine = 60;
-
 // As markup that shows the text as it stands: a text that looks like markup would be taken for it.
 QString ToolTipOf(const QString& text) {
   const QString lines = InLines(text, CharactersOfLine).toHtmlEscaped();

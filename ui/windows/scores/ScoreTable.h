@@ -2,7 +2,6 @@
 
 #include <array>
 #include <optional>
-#include <tuple>
 
 #include <QWidget>
 
@@ -44,6 +43,6 @@ class ScoreTable : public QWidget {
   void SetColumnWidths();
 
   QGridLayout* grid_;
-  std::array<Row, std::tuple_size_v<ScoreRows>> rows_{};
+  std::array<Row, ScoreRowCount> rows_{};
   ElidedLabel* lblNoScoresYet_;
 };

@@ -1,7 +1,6 @@
 #include "ui/windows/scores/frmScores.h"
 
 #include <algorithm>
-#include <tuple>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -18,7 +17,6 @@
 
 namespace {
 
-constexpr int RowCount = static_cast<int>(std::tuple_size_v<ScoreRows>);
 constexpr const char* NoName = "Enter Your Name";
 
 // The picture is shown at half its size, the table within its frame.
@@ -129,7 +127,7 @@ void frmScores::Load(ScoreList list) {
   list_ = list;
   setWindowTitle(ScoreSection(list));
   rows_ = RowsFrom(context_.globals.ScoreFile.Values(), list);
-  for (int row = 0; row < RowCount; ++row) {
+  for (int row = 0; row < ScoreRowCount; ++row) {
     ShowRow(row);
     if (!rows_[Index(row)].name.isEmpty()) table_->At(row).lblNumbers->setText(RowNumber(row));
   }
@@ -147,19 +145,19 @@ void frmScores::ShowRow(int row) {
 void frmScores::SendScore(std::int16_t TotalMoves, std::int32_t TotalTime, bool HighScore) {
   cmdReplay_->show();
   cmdNewGame_->show();
-  for (int row = 0; row < RowCount; ++row) table_->SetRed(row, false);
+  for (int row = 0; row < ScoreRowCount; ++row) table_->SetRed(row, false);
   txtHighScore_->hide();
 
   list_ = HighScore ? ScoreList::High : ScoreList::Low;
   const FinishedGame game{TotalMoves, TotalTime};
   const int place = InsertionPlace(list_, rows_, game);
   inserted_.reset();
-  if (place < RowCount) Insert(game, place);
+  if (place < ScoreRowCount) Insert(game, place);
 }
 
 void frmScores::Insert(const FinishedGame& game, int place) {
   InsertScore(rows_, place, RowOf(game, QString()));
-  for (int row = 0; row < RowCount; ++row) {
+  for (int row = 0; row < ScoreRowCount; ++row) {
     ShowRow(row);
     if (!rows_[Index(row)].moves.isEmpty()) table_->At(row).lblNumbers->setText(RowNumber(row));
   }
