@@ -183,6 +183,12 @@ class Desktop:
             lambda: self.run("xdotool", "search", "--onlyvisible", "--name", title).split(),
             f"a window called {title}")[0]
 
+    def window_in_front(self, title):
+        """The window, when it has the keyboard: a key that is pressed before goes to another."""
+        window = self.window(title)
+        wait_for(lambda: self.focused() == window, f"the keyboard in {title}")
+        return window
+
     def opened_game(self, moves):
         """The window of a game that was opened with as many moves. While the knight walks them it
         takes no keys and clicks; when it has arrived the clock runs on."""

@@ -25,7 +25,7 @@ class Appearance(unittest.TestCase):
 
     def open_preferences(self):
         self.desktop.press("alt+e", "p")
-        return self.desktop.window(PREFERENCES)
+        return self.desktop.window_in_front(PREFERENCES)
 
     def press_first_chooser(self, key):
         """The window opens on OK; Cancel follows, then the first of the buttons that choose."""

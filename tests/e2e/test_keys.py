@@ -58,16 +58,10 @@ class HeldKeys(unittest.TestCase):
         return len(self.desktop.run("xdotool", "search", "--onlyvisible", "--name",
                                     title).split())
 
-    def stands(self, title):
-        """The window is there, has the keyboard and was not answered: the next key answers it."""
-        window = self.desktop.window(title)
-        wait_for(lambda: self.desktop.focused() == window, f"the keyboard in {title}")
-        return window
-
     def only_opens(self, key, title):
         """Held down, the key opens the window and does nothing in it."""
-        self.desktop.hold(key, until=lambda: self.stands(title))
-        return self.stands(title)
+        self.desktop.hold(key, until=lambda: self.desktop.window_in_front(title))
+        self.desktop.window_in_front(title)
 
     def scores_are_untouched(self):
         self.assertFalse((self.program.parent / "Scores.dat").exists())
@@ -90,7 +84,7 @@ class HeldKeys(unittest.TestCase):
     def test_escape_closes_only_the_celebration(self):
         self.start_before_the_last_move()
         self.desktop.press("Return")
-        self.stands("^You Win!$")
+        self.desktop.window_in_front("^You Win!$")
         self.only_opens("Escape", r"^Game Over\.\.\.$")
         self.scores_are_untouched()
 
@@ -107,14 +101,14 @@ class HeldKeys(unittest.TestCase):
                     wait_for(lambda: not self.desktop.has_window(question), "the question to go")
                     self.caption_begins("Gallopade Nova: 2 ")
                     self.desktop.close(self.game)
-                    self.stands(r"^Exit\?$")
+                    self.desktop.window_in_front(r"^Exit\?$")
                     self.desktop.press("alt+y")
                     wait_for(lambda: not self.desktop.has_window(TITLE), "the program to end")
 
     def test_a_file_dialog_is_not_left_by_the_key_that_closed_a_message(self):
         self.start()
         self.desktop.press("ctrl+o")
-        self.stands("^Open$")
+        self.desktop.window_in_front("^Open$")
         self.desktop.type("no such game")
         self.hold_until_there_are(2, "Return")  # the dialog, and its message above it
         self.hold_until_there_are(1, "Escape")

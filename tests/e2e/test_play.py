@@ -43,14 +43,14 @@ class Play(unittest.TestCase):
 
     def save_as(self, path):
         self.desktop.press("ctrl+s")
-        self.desktop.window("^Save As$")
+        self.desktop.window_in_front("^Save As$")
         self.desktop.type(str(path))
         self.desktop.press("Return")
         wait_for(path.exists, "the saved game")
 
     def close_with(self, answer):
         self.desktop.close(self.game)
-        self.desktop.window(r"^Exit\?$")
+        self.desktop.window_in_front(r"^Exit\?$")
         self.desktop.press(answer)
 
     def ended(self):
@@ -139,7 +139,7 @@ class Play(unittest.TestCase):
             self.desktop.press("ctrl+r")
             self.desktop.focus(self.desktop.window("^Replay$"))
             self.desktop.press("alt+c")
-            self.desktop.window("^End Replay$")
+            self.desktop.window_in_front("^End Replay$")
             self.desktop.press("alt+y")
             wait_for(lambda: self.desktop.focused() == self.game, "the keyboard in the game")
 

@@ -54,7 +54,7 @@ class Printing(MoveListTest):
         self.desktop.press("Escape")
         wait_for(lambda: not self.desktop.has_window("^Move History$"), "the history to close")
         self.desktop.close(self.desktop.window("^Gallopade Nova: 40 "))
-        self.desktop.window(r"^Exit\?$")
+        self.desktop.window_in_front(r"^Exit\?$")
         self.desktop.press("alt+y")
         wait_for(lambda: not self.desktop.has_window("^Gallopade Nova"), "the game to close")
         wait_for(server.printed.exists, "the printed page")

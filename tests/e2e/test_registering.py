@@ -139,7 +139,7 @@ class DoubleClicks(RegisteringTest):
         self.desktop.start_program(*command)
         window = self.desktop.window("^Gallopade Nova: 3 ")
         self.desktop.close(window)
-        self.desktop.window(r"^Exit\?$")
+        self.desktop.window_in_front(r"^Exit\?$")
         self.desktop.press("alt+y")
         wait_for(lambda: not self.desktop.has_window(TITLE), "the program to end")
 

@@ -14,7 +14,7 @@ class RichText(MoveListTest):
         document = self.folder / "tour.rtf"
         self.open_move_history()
         self.choose("alt+o", "s")
-        self.desktop.window("^Save As$")
+        self.desktop.window_in_front("^Save As$")
         self.desktop.type(str(document))
         self.desktop.press("Return")
         wait_for(document.exists, "the document")

@@ -60,7 +60,7 @@ class BadMoments(unittest.TestCase):
 
     def closes(self):
         self.desktop.close(self.game)
-        self.desktop.window(r"^Exit\?$")
+        self.desktop.window_in_front(r"^Exit\?$")
         self.desktop.press("alt+y")
         self.assertEqual(exit_status(self.process), 0)
 
