@@ -1,10 +1,11 @@
 #pragma once
 
-#include <array>
-
-#include <QAccessible>
 #include <QString>
 #include <QTimer>
+
+#include "ui/application/SpokenObject.h"
+
+class QMenu;
 
 // Tells a screen reader what goes on in a window, whatever has the keyboard there. What it says
 // comes as the messages of a status bar do, which readers read without leaving their place. Without
@@ -12,13 +13,14 @@
 class Announcer {
  public:
   // pause: milliseconds that pass at least between two words about the progress of something.
-  explicit Announcer(int pause);
-  ~Announcer();
+  explicit Announcer(int pause = 0);
 
   // At once; progress that is yet to be told is out of date then.
   void Say(const QString& sentence);
   // As soon as the pause since the last progress is over; of several only the last.
   void SayProgress(const QString& sentence);
+  // From now on, that the menu opens, by its accessible name.
+  void SayOpeningOf(QMenu& menu);
   // The pause begins now.
   void Rest() { pause_.start(); }
   // Somebody listens, and the pause is over.
@@ -27,11 +29,8 @@ class Announcer {
  private:
   void Send(const QString& sentence);
   void SendPending();
-  QAccessible::Id Register(QAccessible::Role role, QAccessible::Id parent, const QString& name);
 
   QTimer pause_;
   QString pending_;
-  QAccessible::Id statusBar_ = 0;
-  // The present one and the one before it, about which a screen reader may still ask.
-  std::array<QAccessible::Id, 2> messages_{};
+  SpokenObjects messages_;
 };

@@ -1,10 +1,7 @@
 #include "ui/board/AccessibleBoard.h"
 
-#include <algorithm>
-
 #include <QApplication>
 
-#include "ui/board/AccessibleCursor.h"
 #include "ui/board/BoardView.h"
 #include "ui/board/BoardWords.h"
 
@@ -15,36 +12,19 @@ QAccessibleInterface* MakeAccessible(const QString& className, QObject* object) 
   return new AccessibleBoard(*static_cast<BoardView*>(object));
 }
 
-void Delete(QAccessible::Id id) {
-  if (id != 0) QAccessible::deleteAccessibleInterface(id);
-}
-
 }  // namespace
 
 AccessibleBoard::AccessibleBoard(BoardView& view)
     : QAccessibleWidget(&view, QAccessible::Table), view_(view) {}
 
 AccessibleBoard::~AccessibleBoard() {
-  for (const QAccessible::Id id : squares_) Delete(id);
-  for (const QAccessible::Id id : cursors_) Delete(id);
+  for (const QAccessible::Id id : squares_) {
+    if (id != 0) QAccessible::deleteAccessibleInterface(id);
+  }
 }
 
 void AccessibleBoard::Install() {
   QAccessible::installFactory(MakeAccessible);
-}
-
-AccessibleBoard& AccessibleBoard::Of(BoardView& view) {
-  return *static_cast<AccessibleBoard*>(QAccessible::queryAccessibleInterface(&view));
-}
-
-// Readers take two objects of one name at one place for the same, so every second one is smaller.
-void AccessibleBoard::LeadTo(const Sentence& sentence) {
-  cursorInset_ = 1 - cursorInset_;
-  auto* cursor = new AccessibleCursor(view_, cursorInset_, sentence);
-  Delete(cursors_[1]);
-  cursors_ = {QAccessible::registerAccessibleInterface(cursor), cursors_[0]};
-  QAccessibleEvent event(cursor, QAccessible::Focus);
-  QAccessible::updateAccessibility(&event);
 }
 
 void* AccessibleBoard::interface_cast(QAccessible::InterfaceType type) {
@@ -62,13 +42,9 @@ QAccessibleInterface* AccessibleBoard::child(int number) const {
   return QAccessible::accessibleInterface(id);
 }
 
-// The cursor counts as the square that it stands for.
 int AccessibleBoard::indexOfChild(const QAccessibleInterface* child) const {
-  if (const auto* square = dynamic_cast<const AccessibleSquare*>(child)) {
-    return ChildOfSquare(square->Index());
-  }
-  const auto* cursor = dynamic_cast<const AccessibleCursor*>(child);
-  return cursor == nullptr ? -1 : ChildOfSquare(std::max(cursor->Square(), 0));
+  const auto* square = dynamic_cast<const AccessibleSquare*>(child);
+  return square == nullptr ? -1 : ChildOfSquare(square->Index());
 }
 
 QAccessibleInterface* AccessibleBoard::childAt(int x, int y) const {

@@ -7,7 +7,6 @@
 #include "core/Square.h"
 
 class BoardView;
-struct Sentence;
 
 // The board as a screen reader meets it: a table of 8 by 8 cells, each named by its square,
 // described by its state and pressed like a click.
@@ -18,9 +17,6 @@ class AccessibleBoard : public QAccessibleWidget, public QAccessibleTableInterfa
 
   // Makes Qt ask for such an interface for every BoardView; once per program.
   static void Install();
-  static AccessibleBoard& Of(BoardView& view);
-  // Leads the screen reader to what the sentence is about, and has it read.
-  void LeadTo(const Sentence& sentence);
   // A child's number goes along the rows, as tables are read.
   static int ChildOfSquare(int index) { return RowOf(index) * BoardSide + ColumnOf(index); }
 
@@ -55,9 +51,6 @@ class AccessibleBoard : public QAccessibleWidget, public QAccessibleTableInterfa
  private:
   BoardView& view_;
   mutable std::array<QAccessible::Id, SquareCount> squares_{};  // 0: not asked for yet
-  // The present one and the one before it, about which a screen reader may still ask.
-  std::array<QAccessible::Id, 2> cursors_{};
-  int cursorInset_ = 0;
 };
 
 // One square of it.

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "core/Square.h"
+#include "ui/application/ReaderCursor.h"
 #include "ui/board/BoardNews.h"
 
 class BoardView;
@@ -25,13 +26,17 @@ class BoardAnnouncer {
   void EndCommand();
   // The keyboard has come to the board.
   void FocusIn();
+  // A key asked for a command that cannot be given now.
+  void Refuse(const QString& command);
 
  private:
   void Tell();
+  void LeadTo(const Sentence& sentence);
   void DescribeSquares();
 
   BoardView& view_;
   BoardNews news_;
+  ReaderCursor cursor_;
   QTimer afterFocus_;
   int commands_ = 0;
   std::array<std::string_view, SquareCount> descriptions_{};

@@ -9,11 +9,24 @@ constexpr const char* Free = "free";
 constexpr const char* ChooseFirst = "choose the first square";
 
 Sentence About(int square, std::string_view description) {
-  return {square, SquareName(ColumnOf(square), RowOf(square)), std::string(description)};
+  const std::string name = SquareName(ColumnOf(square), RowOf(square));
+  return {square, name + ", " + std::string(description)};
 }
 
 Sentence Plain(const std::string& text) {
-  return {-1, text, ""};
+  return {-1, text};
+}
+
+std::string BeginningOf(Occasion occasion) {
+  switch (occasion) {
+    case Occasion::Arrival:
+      return "Chessboard, ";
+    case Occasion::NewGame:
+      return "new game, ";
+    case Occasion::Move:
+      break;
+  }
+  return "";
 }
 
 // In the order of their names, which is easier to keep in mind than any other.
@@ -56,10 +69,11 @@ Sentence SquareSentence(const GameState& game, int square) {
 }
 
 Sentence GameSentence(const GameState& game, Occasion occasion) {
-  const std::string news = occasion == Occasion::NewGame ? "new game, " : "";
-  if (!game.FirstMoveMade) return Plain(news + ChooseFirst);
+  const std::string beginning = BeginningOf(occasion);
+  if (!game.FirstMoveMade) return Plain(beginning + ChooseFirst);
   const std::string who = occasion == Occasion::Move ? "" : "knight, ";
-  return About(SquareIndex(game.KnightX, game.KnightY), news + who + Standing(game));
+  const Sentence rest = About(SquareIndex(game.KnightX, game.KnightY), who + Standing(game));
+  return {rest.square, beginning + rest.text};
 }
 
 Sentence RefusalSentence(const GameState& game, int square) {

@@ -7,11 +7,9 @@ struct GameState;
 
 // What a screen reader says of the board, in the fewest words that tell all.
 
-// The name of a square, and what there is to say about it; or, without a square, all in one.
 struct Sentence {
-  int square = -1;
-  std::string name;
-  std::string description;
+  int square = -1;  // that it is about, if it is about one
+  std::string text;
 
   friend bool operator==(const Sentence&, const Sentence&) = default;
 };

@@ -1,5 +1,6 @@
 #include "ui/windows/game/GameMenu.h"
 
+#include <algorithm>
 #include <optional>
 
 #include <QAccessible>
@@ -83,12 +84,14 @@ constexpr MenuRow HelpRows[] = {
 
 class MenuBuilder {
  public:
-  MenuBuilder(frmGame& window, std::array<QAction*, MenuEntryCount>& entries)
-      : window_(window), entries_(entries) {}
+  MenuBuilder(frmGame& window, Announcer& announcer, std::array<QAction*, MenuEntryCount>& entries)
+      : window_(window), announcer_(announcer), entries_(entries) {}
 
   template <std::size_t Count>
   void Fill(QMenu* menu, const char* name, const MenuRow (&rows)[Count]) {
     menu->setObjectName(name);
+    menu->setAccessibleName(menu->title().remove('&'));
+    announcer_.SayOpeningOf(*menu);
     for (const MenuRow& row : rows) AddRow(menu, row);
   }
 
@@ -97,10 +100,20 @@ class MenuBuilder {
     if (row.name == nullptr) {
       menu->addSeparator()->setObjectName(QString("mnuSeparator%1").arg(separators_++));
     } else if (row.command == nullptr) {
-      Fill(menu->addMenu(row.caption), row.name, ChessboardRows);
+      Fill(AddSubmenu(menu, row), row.name, ChessboardRows);
     } else {
       AddEntry(menu, row);
     }
+  }
+
+  // A screen reader does not find out by itself that the entry leads to a menu. Later, after the
+  // entry.
+  QMenu* AddSubmenu(QMenu* menu, const MenuRow& row) {
+    QMenu* submenu = menu->addMenu(row.caption);
+    QObject::connect(
+        submenu->menuAction(), &QAction::hovered, &window_,
+        [&announcer = announcer_] { announcer.Say("menu"); }, Qt::QueuedConnection);
+    return submenu;
   }
 
   void AddEntry(QMenu* menu, const MenuRow& row) {
@@ -131,6 +144,7 @@ class MenuBuilder {
   }
 
   frmGame& window_;
+  Announcer& announcer_;
   std::array<QAction*, MenuEntryCount>& entries_;
   int separators_ = 0;
 };
@@ -138,7 +152,7 @@ class MenuBuilder {
 }  // namespace
 
 GameMenu::GameMenu(frmGame& window) {
-  MenuBuilder builder(window, entries_);
+  MenuBuilder builder(window, announcer_, entries_);
   QMenuBar* bar = window.menuBar();
   builder.Fill(bar->addMenu("&File"), "mnuFile", FileRows);
   builder.Fill(bar->addMenu("&Edit"), "mnuEdit", EditRows);
@@ -146,4 +160,11 @@ GameMenu::GameMenu(frmGame& window) {
   builder.Fill(bar->addMenu("&Help"), "mnuHelp", HelpRows);
   Entry(MenuEntry::mnuViewScore).setCheckable(true);
   Entry(MenuEntry::mnuViewTime).setCheckable(true);
+}
+
+const QAction* GameMenu::DisabledEntryOf(const QKeySequence& keys) const {
+  const auto entry = std::find_if(entries_.begin(), entries_.end(), [&](const QAction* action) {
+    return !action->isEnabled() && action->shortcut() == keys;
+  });
+  return entry == entries_.end() ? nullptr : *entry;
 }

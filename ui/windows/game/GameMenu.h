@@ -5,6 +5,7 @@
 #include <QAction>
 
 #include "core/GameWindow.h"
+#include "ui/application/Announcer.h"
 
 class frmGame;
 
@@ -16,7 +17,10 @@ class GameMenu {
   explicit GameMenu(frmGame& window);
 
   QAction& Entry(MenuEntry entry) const { return *entries_[static_cast<std::size_t>(entry)]; }
+  // The disabled entry of that shortcut; null when there is none.
+  const QAction* DisabledEntryOf(const QKeySequence& keys) const;
 
  private:
+  Announcer announcer_;
   std::array<QAction*, MenuEntryCount> entries_{};
 };

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMenuBar>
 #include <QPixmapCache>
 #include <QScopedValueRollback>
@@ -15,6 +16,7 @@
 #include "storage/PathName.h"
 #include "ui/application/AccessibleDialog.h"
 #include "ui/application/DoEvents.h"
+#include "ui/application/ReaderEvents.h"
 #include "ui/board/BoardView.h"
 #include "ui/commands/EndOfGame.h"
 #include "ui/commands/GameFiles.h"
@@ -44,6 +46,7 @@ frmGame::frmGame(Globals& globals, PicturePace::Clock clock)
       helpKey_([this](const QString& topic) { GetHelp(topic); }),
       guard_([this](WorkGuard::Change change) { WorkChanged(change); }) {
   AccessibleDialog::Install();
+  ReaderEvents::Install();
   QPixmapCache::setCacheLimit(PixmapCacheKilobytes);
   setObjectName("frmGame");
   setCentralWidget(board_.get());
@@ -175,6 +178,13 @@ void frmGame::closeEvent(QCloseEvent* event) {
   if (auto* panel = findChild<SidePanel*>()) panel->CloseDialog();
   event->setAccepted(PlayerMayAct() && MayExit());
   if (event->isAccepted()) SaveSettings();
+}
+
+// The shortcut of a disabled entry comes here. Who does not see the entry is told.
+void frmGame::keyPressEvent(QKeyEvent* event) {
+  const QAction* entry = menu_.DisabledEntryOf(QKeySequence(event->keyCombination()));
+  if (entry != nullptr && PlayerMayAct()) board_->Announcer().Refuse(entry->iconText());
+  QMainWindow::keyPressEvent(event);
 }
 
 bool frmGame::MayExit() {
