@@ -2,10 +2,12 @@
 
 #include <algorithm>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace {
@@ -42,6 +44,7 @@ QFont BoldFont() {
 
 ScoreTable::ScoreTable(QWidget* parent) : QWidget(parent), grid_(new QGridLayout(this)) {
   setFont(RowFont());
+  setFocusPolicy(QAccessible::isActive() ? Qt::TabFocus : Qt::NoFocus);
   grid_->setContentsMargins(Padding, Padding, Padding, Padding);
   grid_->setHorizontalSpacing(ColumnGap);
   grid_->setVerticalSpacing(RowGap);
@@ -111,6 +114,57 @@ std::optional<int> ScoreTable::RowOf(const QWidget* label) const {
   return std::nullopt;
 }
 
+QString ScoreTable::Line(int row) const {
+  const Row& labels = At(row);
+  QStringList parts{QString::number(row + 1), labels.lblNames->text(),
+                    labels.lblMoves->text() + " moves", labels.lblTimes->text()};
+  parts.removeAll(QString());
+  return parts.join(", ");
+}
+
+int ScoreTable::FilledRows() const {
+  return static_cast<int>(std::count_if(rows_.begin(), rows_.end(), [](const Row& row) {
+    return !row.lblNumbers->text().isEmpty();
+  }));
+}
+
+QRect ScoreTable::PlaceOf(int row) const {
+  const int line = row + 1;
+  return grid_->cellRect(line, Numbers).united(grid_->cellRect(line, Times));
+}
+
+void ScoreTable::LeadReaderTo(int row) {
+  const int rows = FilledRows();
+  readRow_ = std::clamp(row, 0, std::max(rows - 1, 0));
+  reader_.LeadTo(PlaceOf(readRow_), rows == 0 ? lblNoScoresYet_->text() : Line(readRow_));
+  update();
+}
+
+void ScoreTable::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  LeadReaderTo(readRow_);
+}
+
+void ScoreTable::focusOutEvent(QFocusEvent* event) {
+  QWidget::focusOutEvent(event);
+  update();
+}
+
+void ScoreTable::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Up:
+      return LeadReaderTo(readRow_ - 1);
+    case Qt::Key_Down:
+      return LeadReaderTo(readRow_ + 1);
+    case Qt::Key_Home:
+      return LeadReaderTo(0);
+    case Qt::Key_End:
+      return LeadReaderTo(FilledRows() - 1);
+    default:
+      QWidget::keyPressEvent(event);
+  }
+}
+
 void ScoreTable::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -124,4 +178,8 @@ void ScoreTable::paintEvent(QPaintEvent*) {
   line.setAlphaF(LineOpacity);
   const int y = grid_->cellRect(0, 0).bottom() + RowGap / 2;
   painter.fillRect(Padding, y, width() - 2 * Padding, 1, line);
+  if (!hasFocus()) return;
+  painter.setPen(palette().color(QPalette::Highlight));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(PlaceOf(readRow_));
 }

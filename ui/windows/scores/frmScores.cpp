@@ -88,7 +88,6 @@ void frmScores::AddNameBox() {
   lblMeasureWidth_->hide();
   txtHighScore_ = new NameBox(table_);
   txtHighScore_->setObjectName("txtHighScore");
-  txtHighScore_->setAccessibleName("Your name");
   txtHighScore_->setText(NoName);
   txtHighScore_->hide();
   connect(txtHighScore_, &NameBox::textChanged, this, &frmScores::txtHighScore_Change);
@@ -126,6 +125,7 @@ void frmScores::LoadLow() {
 void frmScores::Load(ScoreList list) {
   list_ = list;
   setWindowTitle(ScoreSection(list));
+  table_->setAccessibleName(windowTitle());
   rows_ = RowsFrom(context_.globals.ScoreFile.Values(), list);
   for (int row = 0; row < ScoreRowCount; ++row) {
     ShowRow(row);
@@ -165,6 +165,7 @@ void frmScores::Insert(const FinishedGame& game, int place) {
   table_->SetRed(place, true);
   inserted_ = game;
   editedRow_ = place;
+  txtHighScore_->setAccessibleName(QString("Rank %1, your name").arg(place + 1));
   // This text is no name, and not copied to the row.
   const QSignalBlocker silence(txtHighScore_);
   txtHighScore_->setText(NoName);
@@ -210,6 +211,7 @@ bool frmScores::txtHighScore_Validate() {
   if (!name.isEmpty() && name != NoName) {
     txtHighScore_->hide();
     cmdClose_->setFocus();
+    announcer_.Say(table_->Line(editedRow_));
     return true;
   }
   context_.window.Tell("Aren't you forgetting something?", "Please enter your name.",

@@ -6,6 +6,7 @@
 #include <QImage>
 
 #include "storage/ScoreLists.h"
+#include "ui/application/Announcer.h"
 #include "ui/commands/CommandContext.h"
 #include "ui/widgets/SecondaryWindow.h"
 
@@ -82,4 +83,5 @@ class frmScores : public SecondaryWindow {
   std::optional<FinishedGame> inserted_;  // the list has changed
   int editedRow_ = 0;                     // of the inserted game
   ScoresAnswer answer_ = ScoresAnswer::Close;
+  Announcer announcer_;
 };
