@@ -2,7 +2,10 @@
 
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QRadioButton>
+#include <QToolButton>
+#include <QVBoxLayout>
 
 #include "ui/widgets/ValueLabel.h"
 
@@ -14,6 +17,12 @@ QGroupBox* AddFrame(QWidget* parent, const char* name, const QString& caption) {
   return frame;
 }
 
+QVBoxLayout* AddOptionColumn(QGroupBox* frame) {
+  auto* layout = new QVBoxLayout(new QWidget(frame));
+  layout->setContentsMargins(0, 0, 0, 0);
+  return layout;
+}
+
 QRadioButton* AddOption(QWidget* parent, const QString& name, const QString& caption) {
   auto* option = new QRadioButton(caption, parent);
   option->setObjectName(name);
@@ -22,6 +31,11 @@ QRadioButton* AddOption(QWidget* parent, const QString& name, const QString& cap
     option->setFocusPolicy(checked ? Qt::StrongFocus : Qt::ClickFocus);
   });
   return option;
+}
+
+void AddClearButton(QLineEdit& field) {
+  field.setClearButtonEnabled(true);
+  field.findChild<QToolButton*>()->setAccessibleName("Clear");
 }
 
 QLabel* AddLabel(QWidget* parent, const char* name, const QString& text) {

@@ -4,7 +4,9 @@
 
 class QGroupBox;
 class QLabel;
+class QLineEdit;
 class QRadioButton;
+class QVBoxLayout;
 class PicturePace;
 class QWidget;
 class ValueLabel;
@@ -13,6 +15,11 @@ class ValueLabel;
 // belongs to its parent.
 
 QGroupBox* AddFrame(QWidget* parent, const char* name, const QString& caption);
+
+// For the options of a frame, one below the other, in a widget that belongs to the frame. The
+// caption of a frame counts as the label of what lies right in it, so that readers would say it
+// twice.
+QVBoxLayout* AddOptionColumn(QGroupBox* frame);
 
 // Of a group of options the chosen one is the stop of the tab key.
 QRadioButton* AddOption(QWidget* parent, const QString& name, const QString& caption);
@@ -26,6 +33,9 @@ QPushButton* AddButton(Window* window, const char* name, const QString& caption,
   QObject::connect(button, &QPushButton::clicked, window, handler);
   return button;
 }
+
+// A button in the field that empties it, with a name.
+void AddClearButton(QLineEdit& field);
 
 // Shows its text as it stands, never as markup.
 QLabel* AddLabel(QWidget* parent, const char* name, const QString& text);

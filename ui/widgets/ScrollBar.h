@@ -11,12 +11,16 @@ class ScrollBar : public QScrollBar {
   explicit ScrollBar(QWidget* parent);
 
  signals:
-  // The keyboard has come to it.
-  void Entered();
+  // The keyboard has come to it, or a key has left it where it is: a screen reader is to hear
+  // where.
+  void Asked();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  void Move(QKeyEvent& event);
 };

@@ -91,9 +91,11 @@ QGroupBox* frmReplay::AddControlsFrame() {
 
 QGroupBox* frmReplay::AddAdvanceFrame() {
   QGroupBox* frame = AddFrame(this, "fraAdvance", " Advancement:");
-  optAdvance_[Automatic] = AddOption(frame, "optAdvance(0)", "A&utomatic");
-  optAdvance_[Manual] = AddOption(frame, "optAdvance(1)", "&Manual");
-  for (const QRadioButton* option : optAdvance_) {
+  QVBoxLayout* options = AddOptionColumn(frame);
+  optAdvance_[Automatic] = AddOption(options->parentWidget(), "optAdvance(0)", "A&utomatic");
+  optAdvance_[Manual] = AddOption(options->parentWidget(), "optAdvance(1)", "&Manual");
+  for (QRadioButton* option : optAdvance_) {
+    options->addWidget(option);
     connect(option, &QRadioButton::toggled, this, [this](bool checked) {
       if (checked) optAdvance_Click();
     });
@@ -105,13 +107,12 @@ QGroupBox* frmReplay::AddAdvanceFrame() {
   hsclSpeedSeekSet_->setRange(1, SquareCount);
   connect(hsclSpeedSeekSet_, &ScrollBar::valueChanged, this, &frmReplay::hsclSpeedSeekSet_Change);
   // The value is told later, after the bar's own name.
-  connect(hsclSpeedSeekSet_, &ScrollBar::Entered, this, &frmReplay::TellBar, Qt::QueuedConnection);
+  connect(hsclSpeedSeekSet_, &ScrollBar::Asked, this, &frmReplay::TellBar, Qt::QueuedConnection);
   auto* layout = new QGridLayout(frame);
-  layout->addWidget(optAdvance_[Automatic], 0, 0, 1, 2);
-  layout->addWidget(optAdvance_[Manual], 1, 0, 1, 2);
-  layout->addWidget(hsclSpeedSeekSet_, 2, 0, 1, 2);
-  layout->addWidget(lblSpeedSeek_, 3, 0);
-  layout->addWidget(lblSpeedSeekValue_, 3, 1, Qt::AlignRight);
+  layout->addWidget(options->parentWidget(), 0, 0, 1, 2);
+  layout->addWidget(hsclSpeedSeekSet_, 1, 0, 1, 2);
+  layout->addWidget(lblSpeedSeek_, 2, 0);
+  layout->addWidget(lblSpeedSeekValue_, 2, 1, Qt::AlignRight);
   return frame;
 }
 

@@ -68,8 +68,7 @@ QGroupBox* frmSolve::AddRefreshFrame() {
   connect(hsclRefreshRateValue_, &ScrollBar::valueChanged, this,
           &frmSolve::hsclRefreshRateValue_Change);
   // The value is told later, after the bar's own name.
-  connect(hsclRefreshRateValue_, &ScrollBar::Entered, this, &frmSolve::TellBar,
-          Qt::QueuedConnection);
+  connect(hsclRefreshRateValue_, &ScrollBar::Asked, this, &frmSolve::TellBar, Qt::QueuedConnection);
   hsclRefreshRateValue_Change();
   auto* layout = new QVBoxLayout(frame);
   layout->addWidget(hsclRefreshRateValue_);

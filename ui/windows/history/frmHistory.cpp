@@ -62,6 +62,7 @@ void frmHistory::AddOptions() {
   mnuEdit_ = new QMenu(this);
   mnuEdit_->setObjectName("mnuEdit");
   mnuEdit_->setAccessibleName("Options");
+  announcer_.SayOpeningOf(*mnuEdit_);
   const auto add = [this](const char* name, const char* caption) {
     QAction* entry = mnuEdit_->addAction(caption);
     entry->setObjectName(name);
@@ -80,6 +81,7 @@ void frmHistory::ListMoves() {
   setWindowTitle("Move History");
   lstMoves_->setAccessibleName("Moves");
   cmdOptionsOrUndo_->setText("&Options");
+  cmdOptionsOrUndo_->setAccessibleDescription("has a menu");
   cmdClose_->setText("&Close");
   FillList(MoveListLines(context_.state), QString());
   ShowPrinting(printer_.IsPrinting() ? Printing : QString());

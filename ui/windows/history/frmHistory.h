@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include "ui/application/Announcer.h"
 #include "ui/commands/CommandContext.h"
 #include "ui/widgets/SecondaryWindow.h"
 
@@ -54,4 +55,5 @@ class frmHistory : public SecondaryWindow {
   QAction* mnuEditPrint_ = nullptr;
   QLabel* lblPrinting_ = nullptr;
   bool stepping_ = false;
+  Announcer announcer_;
 };

@@ -80,18 +80,28 @@ void ShowSamples(const QMenu& menu) {
 
 }  // namespace
 
+QString ColorWords(Color color) {
+  for (int index = 0; index < SystemColorCount; ++index) {
+    if (color == SystemColor(index)) return SystemColorNames[index];
+  }
+  const QColor shown = ResolveColor(color, QPalette());
+  return QString("red %1, green %2, blue %3").arg(shown.red()).arg(shown.green()).arg(shown.blue());
+}
+
 PreferenceMenus::PreferenceMenus(QWidget* parent)
     : mnuSystemColors_(new QMenu(parent)), mnuImageOptions_(new QMenu(parent)) {
   mnuSystemColors_->setObjectName("mnuSystemColors");
   // A menu that is higher than the screen would break into columns.
   mnuSystemColors_->setStyleSheet("QMenu { menu-scrollable: 1; }");
   mnuSystemColors_->setAccessibleName("System Colors");
+  announcer_.SayOpeningOf(*mnuSystemColors_);
   for (int index = 0; index < SystemColorCount; ++index) {
     AddEntry(*mnuSystemColors_, index, SystemColorNames[index]);
   }
   AddSharedEntries(*mnuSystemColors_);
   mnuImageOptions_->setObjectName("mnuImageOptions");
   mnuImageOptions_->setAccessibleName("Image Options");
+  announcer_.SayOpeningOf(*mnuImageOptions_);
   AddEntry(*mnuImageOptions_, StretchImages, "&Stretch Images");
   AddEntry(*mnuImageOptions_, CenterImages, "C&enter Images");
   AddSharedEntries(*mnuImageOptions_);

@@ -6,6 +6,7 @@
 #include <QMenu>
 
 #include "storage/BoardLook.h"
+#include "ui/application/Announcer.h"
 
 // The indices of the entries that both popup menus share, and of the two choices of Image Options.
 // The indices 0 to 24 of System Colors are the system's colour indices.
@@ -18,6 +19,9 @@ inline constexpr int FrameWidth = 26;
 inline constexpr int Borders = 51;
 
 }  // namespace PreferenceEntry
+
+// The words of the colour menu for a system colour; for any other its red, green and blue.
+QString ColorWords(Color color);
 
 // The two popup menus behind the chooser buttons.
 class PreferenceMenus {
@@ -38,6 +42,7 @@ class PreferenceMenus {
   void AddSeparator(QMenu& menu, int index);
   void AddSharedEntries(QMenu& menu);
 
+  Announcer announcer_;
   QMenu* mnuSystemColors_;
   QMenu* mnuImageOptions_;
 };

@@ -56,6 +56,7 @@ void PreviewImage::PaintStretched(QPainter& painter) {
 
 Swatch::Swatch(QWidget* parent) : QWidget(parent), image_(new PreviewImage(this)) {
   setFixedSize(SwatchSize);
+  setFocusPolicy(QAccessible::isActive() ? Qt::TabFocus : Qt::NoFocus);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(LineWidth, LineWidth, LineWidth, LineWidth);
   layout->addWidget(image_);
@@ -69,6 +70,17 @@ void Swatch::SetColor(Color color) {
 void Swatch::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), ResolveColor(color_, palette()));
-  painter.setPen(palette().color(QPalette::Dark));
+  painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Dark));
   painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
+void Swatch::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  reader_.LeadTo(rect(), accessibleName());
+  update();
+}
+
+void Swatch::focusOutEvent(QFocusEvent* event) {
+  QWidget::focusOutEvent(event);
+  update();
 }

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "storage/BoardLook.h"
+#include "ui/application/ReaderCursor.h"
 
 class QPainter;
 
@@ -30,7 +31,8 @@ class PreviewImage : public QWidget {
   Positioning positioning_ = Positioning::Stretched;
 };
 
-// Shows a colour within a line, and a picture over it.
+// Shows a colour within a line, and a picture over it. Where a screen reader listens, it is a stop
+// of the tab key and says what it shows.
 class Swatch : public QWidget {
  public:
   explicit Swatch(QWidget* parent);
@@ -40,8 +42,11 @@ class Swatch : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   Color color_ = 0;
   PreviewImage* image_;
+  ReaderCursor reader_{*this};
 };

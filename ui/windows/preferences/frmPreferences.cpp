@@ -75,6 +75,7 @@ void frmPreferences::LoadAndShowImages(bool show) {
   const std::vector<QImage> images = PictureReader(context_.globals.ProgramDirectory).Read(names);
   for (std::size_t owner = 0; owner < images.size(); ++owner) {
     choosers_[owner].swatch->Image().SetPicture(images[owner]);
+    NameSwatch(static_cast<int>(owner));
   }
   PositionImages();
 }
@@ -113,6 +114,7 @@ Color frmPreferences::GetColors(Color color) {
 void frmPreferences::SetColorOf(int owner, Color color) {
   settings_.*ChooserRows[owner].color = color;
   choosers_[owner].swatch->SetColor(color);
+  NameSwatch(owner);
   pctGrid_->ReColorChessboard();
 }
 
@@ -123,7 +125,19 @@ void frmPreferences::ChooseImage(int owner) {
   const QImage picture = LoadPicture(fileName, context_.globals.ProgramDirectory);
   settings_.*ChooserRows[owner].image = picture.isNull() ? QString() : fileName;
   choosers_[owner].swatch->Image().SetPicture(picture);
+  NameSwatch(owner);
   PositionImages();
+}
+
+// After what it shows, which those hear who do not see it.
+void frmPreferences::NameSwatch(int owner) {
+  const ChooserRow& row = ChooserRows[owner];
+  Swatch& swatch = *choosers_[owner].swatch;
+  const QString picture = settings_.*row.image;
+  swatch.setAccessibleName(
+      swatch.Image().HasPicture()
+          ? QString("%1 image, %2").arg(row.part, picture.section('/', -1))
+          : QString("%1 color, %2").arg(row.part, ColorWords(settings_.*row.color)));
 }
 
 QString frmPreferences::GetImages() {

@@ -61,6 +61,7 @@ class frmPreferences : public SecondaryWindow {
   void SetColorOf(int owner, Color color);
   void LoadAndShowImages(bool show);
   void PositionImages();
+  void NameSwatch(int owner);
 
   const CommandContext& context_;
   Settings& settings_;

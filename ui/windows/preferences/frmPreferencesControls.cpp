@@ -24,12 +24,15 @@ constexpr int CaptionMargin = 16;
 QButtonGroup* AddOptions(QGroupBox* frame, QGridLayout& layout, const QString& name,
                          std::initializer_list<const char*> captions) {
   auto* group = new QButtonGroup(frame);
+  QVBoxLayout* column = AddOptionColumn(frame);
   for (const char* caption : captions) {
     const int index = static_cast<int>(group->buttons().size());
-    QRadioButton* option = AddOption(frame, QString("%1(%2)").arg(name).arg(index), caption);
+    QRadioButton* option =
+        AddOption(column->parentWidget(), QString("%1(%2)").arg(name).arg(index), caption);
     group->addButton(option, index);
-    layout.addWidget(option, layout.rowCount(), 0, 1, 2);
+    column->addWidget(option);
   }
+  layout.addWidget(column->parentWidget(), layout.rowCount(), 0, 1, 2);
   return group;
 }
 
@@ -67,11 +70,10 @@ void frmPreferences::AddChooser(int owner, QGridLayout& layout, int row) {
   button->setObjectName(names.button);
   connect(button, &ChooserButton::clicked, this, [this, owner] { Chooser_Click(owner); });
   connect(button, &ChooserButton::MenuRequested, this, [this, owner] { Chooser_MouseUp(owner); });
+  button->setAccessibleDescription("has a menu");
   auto* swatch = new Swatch(layout.parentWidget());
   swatch->setObjectName(names.swatch);
-  swatch->setAccessibleName(QString("%1 color").arg(names.part));
   swatch->Image().setObjectName(names.preview);
-  swatch->Image().setAccessibleName(QString("%1 image").arg(names.part));
   layout.addWidget(button, row, 0);
   layout.addWidget(swatch, row, 1);
   // The buttons are as wide with one caption as with the other.
