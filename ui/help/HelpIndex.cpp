@@ -6,6 +6,8 @@
 #include <QSortFilterProxyModel>
 #include <QVBoxLayout>
 
+#include "ui/widgets/NamedControls.h"
+
 HelpIndex::HelpIndex(QAbstractItemModel& keywords, QWidget* parent)
     : QWidget(parent), shown_(new QSortFilterProxyModel(this)), list_(new QListView) {
   shown_->setSourceModel(&keywords);
@@ -15,7 +17,7 @@ HelpIndex::HelpIndex(QAbstractItemModel& keywords, QWidget* parent)
   auto* filter = new QLineEdit;
   filter->setObjectName("indexFilter");
   filter->setAccessibleName("Index filter");
-  filter->setClearButtonEnabled(true);
+  AddClearButton(*filter);
   auto* label = new QLabel("&Look for:");
   label->setBuddy(filter);
   list_->setObjectName("indexList");

@@ -1,8 +1,11 @@
 #include "ui/help/HelpPage.h"
 
+#include <QAccessible>
+#include <QApplication>
 #include <QScrollBar>
 #include <QWheelEvent>
 
+#include "ui/application/ReaderEvents.h"
 #include "ui/help/HelpBook.h"
 
 namespace {
@@ -50,9 +53,56 @@ void HelpPage::doSetSource(const QUrl& url, QTextDocument::ResourceType type) {
   const QUrl page = book_.Resolved(source().resolved(url));
   if (book_.Has(page.adjusted(QUrl::RemoveFragment))) {
     QTextBrowser::doSetSource(page, type);
+    PutCursorInSight();
+    if (hasFocus()) LeadReader();
   } else {
     emit LinkLeadsOut(page);
   }
+}
+
+// A link may lead into the middle of a page, and then the page is read from there.
+void HelpPage::PutCursorInSight() {
+  if (QAccessible::isActive()) setTextCursor(cursorForPosition({PageMargin, PageMargin / 2}));
+}
+
+void HelpPage::Find(const QString& word) {
+  const ReaderEvents::Silence silence;
+  moveCursor(QTextCursor::Start);
+  find(word);
+}
+
+void HelpPage::LeadReader() {
+  QTextCursor line = textCursor();
+  line.movePosition(QTextCursor::StartOfLine);
+  line.movePosition(QTextCursor::EndOfLine, QTextCursor::KeepAnchor);
+  reader_.LeadTo(cursorRect(), line.selectedText());
+}
+
+void HelpPage::focusInEvent(QFocusEvent* event) {
+  if (QAccessible::isActive()) {
+    setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
+  }
+  QTextBrowser::focusInEvent(event);
+  LeadReader();
+}
+
+// The selection that marks the link would be read instead of the line that the player goes to next.
+bool HelpPage::GoToLink(bool next) {
+  const ReaderEvents::Silence silence;
+  return QTextBrowser::focusNextPrevChild(next);
+}
+
+// The tab key leads from link to link, and in the end out of the page.
+bool HelpPage::focusNextPrevChild(bool next) {
+  const bool found = GoToLink(next);
+  if (hasFocus()) {
+    const QString link = textCursor().selectedText();
+    if (!link.isEmpty()) reader_.LeadTo(cursorRect(), link + ", link");
+  } else if (QWidget* other = QApplication::focusWidget()) {
+    QAccessibleEvent event(other, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
+  }
+  return found;
 }
 
 void HelpPage::wheelEvent(QWheelEvent* event) {

@@ -2,9 +2,12 @@
 
 #include <QTextBrowser>
 
+#include "ui/application/ReaderCursor.h"
+
 class HelpBook;
 
 // The page view: follows links inside the book and zooms. It never opens anything outside of it.
+// Where a screen reader listens, it has a text cursor, with which the page is read.
 class HelpPage : public QTextBrowser {
   Q_OBJECT
 
@@ -14,6 +17,10 @@ class HelpPage : public QTextBrowser {
 
   void ZoomBy(int steps);
   void ResetZoom();
+  // Marks the first place of the word.
+  void Find(const QString& word);
+  // Has the line of the text cursor read.
+  void LeadReader();
 
  signals:
   // The player chose a link that leads out of the book; nothing was opened.
@@ -24,9 +31,14 @@ class HelpPage : public QTextBrowser {
   void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
   void wheelEvent(QWheelEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
 
  private:
   void MakeLinksLegible();
+  void PutCursorInSight();
+  bool GoToLink(bool next);
 
   const HelpBook& book_;
+  ReaderCursor reader_{*this};
 };

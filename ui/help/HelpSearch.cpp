@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "ui/help/HelpBook.h"
+#include "ui/widgets/NamedControls.h"
 
 namespace {
 
@@ -46,7 +47,7 @@ HelpSearch::HelpSearch(HelpBook& book, QWidget* parent)
   auto* field = new QLineEdit;
   field->setObjectName("searchField");
   field->setAccessibleName("Search for words");
-  field->setClearButtonEnabled(true);
+  AddClearButton(*field);
   auto* label = new QLabel("Search &for words:");
   label->setBuddy(field);
   results_->setObjectName("searchResults");
@@ -86,6 +87,13 @@ void HelpSearch::Search(const QString& query) {
   }
   results_->setCurrentRow(0);
   count_->setText(words_.isEmpty() ? QString() : CountText(found.size()));
+  if (!words_.isEmpty()) announcer_.Say(SpokenResult());
+}
+
+// How many there are, and which of them the Enter key opens.
+QString HelpSearch::SpokenResult() const {
+  const QListWidgetItem* first = results_->currentItem();
+  return first == nullptr ? count_->text() : count_->text() + ", " + first->text();
 }
 
 void HelpSearch::ChooseCurrent() {

@@ -5,6 +5,8 @@
 #include <QUrl>
 #include <QWidget>
 
+#include "ui/application/Announcer.h"
+
 class HelpBook;
 class QLabel;
 class QListWidget;
@@ -37,10 +39,12 @@ class HelpSearch : public QWidget {
   void Search(const QString& query);
   void ChooseCurrent();
   void ReadPages();
+  QString SpokenResult() const;
 
   HelpBook& book_;
   std::vector<SearchablePage> pages_;  // read when the player first searches
   QListWidget* results_;
   QLabel* count_;
   QStringList words_;
+  Announcer announcer_;
 };

@@ -1,5 +1,6 @@
 #include "ui/help/frmHelp.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QHelpContentWidget>
 #include <QLabel>
@@ -104,7 +105,7 @@ QWidget* frmHelp::BuildSide() {
   side_->addTab(index, "&Index");
   side_->addTab(search, "&Search");
 
-  connect(contents_, &QHelpContentWidget::linkActivated, this, &frmHelp::OpenPage);
+  connect(contents_, &QHelpContentWidget::linkActivated, this, &frmHelp::GoToPage);
   connect(contents_, &QHelpContentWidget::clicked, this, [this](const QModelIndex& chosen) {
     const auto* model = qobject_cast<QHelpContentModel*>(contents_->model());
     OpenPage(model->contentItemAt(chosen)->url());
@@ -112,7 +113,7 @@ QWidget* frmHelp::BuildSide() {
   connect(qobject_cast<QHelpContentModel*>(contents_->model()), &QHelpContentModel::contentsCreated,
           this, &frmHelp::ShowContentsTree);
   connect(index, &HelpIndex::KeywordChosen, this,
-          [this](const QString& keyword) { OpenPage(book_.PageOf(keyword)); });
+          [this](const QString& keyword) { GoToPage(book_.PageOf(keyword)); });
   connect(search, &HelpSearch::PageChosen, this, &frmHelp::OpenPageAt);
   return side_;
 }
@@ -176,8 +177,18 @@ void frmHelp::OpenPage(const QUrl& page) {
 
 void frmHelp::OpenPageAt(const QUrl& page, const QStringList& words) {
   OpenPage(page);
-  page_->moveCursor(QTextCursor::Start);
-  if (!words.isEmpty()) page_->find(words.first());
+  if (!words.isEmpty()) page_->Find(words.first());
+  LeadReaderToPage();
+}
+
+void frmHelp::GoToPage(const QUrl& page) {
+  OpenPage(page);
+  LeadReaderToPage();
+}
+
+// Who does not see the page has to go there.
+void frmHelp::LeadReaderToPage() {
+  if (QAccessible::isActive()) page_->setFocus();
 }
 
 // A place within a page has an entry of its own, which the contents cannot look up: once chosen, it

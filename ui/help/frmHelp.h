@@ -46,6 +46,8 @@ class frmHelp : public QMainWindow {
   void ShowContentsTree();
   void OpenPage(const QUrl& page);
   void OpenPageAt(const QUrl& page, const QStringList& words);
+  void GoToPage(const QUrl& page);
+  void LeadReaderToPage();
   void SelectInContents(const QUrl& page);
   void RaiseWindow();
 
