@@ -12,7 +12,7 @@ from pathlib import Path
 from desktop import wait_for
 
 SERVER_PROGRAMS = Path("/usr/lib/cups")
-TOOLS = ("cupsd", "lp", "lpadmin", "cupsreject")
+TOOLS = ("cupsd", "lp", "lpadmin", "lpstat", "cupsreject")
 # Where the server's programs lie, which not everybody has in the PATH.
 os.environ["PATH"] += ":/usr/sbin:/sbin"
 
@@ -116,7 +116,7 @@ class PrintServer:
             ["cupsd", "-f", "-c", self.folder / "cupsd.conf", "-s",
              self.folder / "cups-files.conf"],
             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        wait_for(lambda: os.path.exists(self.address), "the print server")
+        wait_for(self._answers, "the print server")
         return self
 
     def __exit__(self, *_):
@@ -129,10 +129,20 @@ class PrintServer:
         path.write_text(text.format(folder=self.folder))
         return path
 
-    def _run(self, *command):
+    def _ask(self, *command):
         environment = {"CUPS_SERVER": self.address, "PATH": os.environ["PATH"],
-                       "HOME": str(self.folder)}
-        subprocess.run(command, env=environment, check=True, capture_output=True)
+                       "HOME": str(self.folder), "LANG": "C.UTF-8"}
+        return subprocess.run(command, env=environment, check=False, capture_output=True, text=True)
+
+    def _answers(self):
+        return "scheduler is running" in self._ask("lpstat", "-r").stdout
+
+    def _run(self, *command):
+        told = self._ask(*map(str, command))
+        if told.returncode != 0:
+            log = (self.folder / "error.log").read_text()
+            raise AssertionError(f"{command} failed: {told.stderr}\n{log}")
+        return told.stdout
 
     def add_default_printer(self):
         self._run("lpadmin", "-p", PRINTER, "-E", "-v", "keep:/")
@@ -144,9 +154,7 @@ class PrintServer:
 
     def jobs(self):
         """What is in the queue and not printed yet."""
-        environment = {"CUPS_SERVER": self.address, "PATH": os.environ["PATH"]}
-        return subprocess.run(["lpstat", "-o"], env=environment, check=True, capture_output=True,
-                              text=True).stdout
+        return self._run("lpstat", "-o")
 
     def reject_jobs(self):
         self._run("cupsreject", PRINTER)
