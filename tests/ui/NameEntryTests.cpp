@@ -16,11 +16,6 @@ bool IsRed(const QLabel& label) {
 // A style as some desktops have it, with much room between the frame of a box and its text.
 class WideBoxes : public QProxyStyle {
  public:
-  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
-                         const QWidget* widget) const override {
-    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    return type == CT_LineEdit ? size + QSize(2 * Room, 0) : size;
-  }
   QRect subElementRect(SubElement element, const QStyleOption* option,
                        const QWidget* widget) const override {
     const QRect rect = QProxyStyle::subElementRect(element, option, widget);

@@ -15,8 +15,10 @@ constexpr int MarginAndCursor = 5;
 int NameBox::WidthAround(int textWidth) const {
   QStyleOptionFrame frame;
   initStyleOption(&frame);
-  const QSize text(textWidth + MarginAndCursor, fontMetrics().height());
-  return style()->sizeFromContents(QStyle::CT_LineEdit, &frame, text, this).width();
+  frame.rect.setWidth(2 * textWidth + MarginAndCursor);
+  const QRect contents =
+      style()->subElementRect(QStyle::SE_LineEditContents, &frame, this) - textMargins();
+  return textWidth + MarginAndCursor + frame.rect.width() - contents.width();
 }
 
 // A player who comes back from another program, or from the box's own menu, has not left the box.
