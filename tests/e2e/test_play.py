@@ -77,6 +77,8 @@ class Play(unittest.TestCase):
         self.caption_begins("Gallopade Nova: 7 ")
 
     def test_the_window_stays_where_it_was(self):
+        settings = self.program.parent / "GallopadeNova.ini"
+        settings.write_text("[Settings]\nLeft=3000\nTop=1500\n")  # else it centres itself at first
         self.start()
         before = wait_for(self.settled_geometry, "the window")
         self.desktop.run("xdotool", "windowmove", "--sync", self.game, "137", "93")
