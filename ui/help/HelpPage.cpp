@@ -65,10 +65,12 @@ void HelpPage::PutCursorInSight() {
   if (QAccessible::isActive()) setTextCursor(cursorForPosition({PageMargin, PageMargin / 2}));
 }
 
+// A screen reader would tell of the selection instead of the line that the player goes to next.
 void HelpPage::Find(const QString& word) {
   const ReaderEvents::Silence silence;
   moveCursor(QTextCursor::Start);
   find(word);
+  if (QAccessible::isActive()) moveCursor(QTextCursor::WordLeft);
 }
 
 void HelpPage::LeadReader() {
