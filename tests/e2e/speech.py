@@ -5,10 +5,9 @@ import json
 import os
 import re
 import sys
-import time
 from pathlib import Path
 
-from desktop import SKIPPED, need
+from desktop import SKIPPED, need, wait_for
 
 HERE = Path(__file__).resolve().parent
 PATIENCE_SECONDS = 60
@@ -76,14 +75,18 @@ class Speech:
         self.forgotten = len(self.voice_file.read_text(encoding="utf-8").splitlines())
 
     def waits_to_hear(self, *patterns):
-        """The patterns one after the other in what is said; all that came before is forgotten."""
-        deadline = time.monotonic() + PATIENCE_SECONDS
+        """The patterns one after the other in what is said since it was last forgotten."""
         pattern = ".*".join(patterns)
-        while not re.search(pattern, " ".join(self.said())):
-            if time.monotonic() > deadline:
-                raise AssertionError(f"waited in vain to hear {pattern!r}; heard {self.said()}")
-            time.sleep(0.02)
+        try:
+            wait_for(lambda: re.search(pattern, " ".join(self.said())), f"{pattern!r}",
+                     PATIENCE_SECONDS)
+        except AssertionError as error:
+            raise AssertionError(f"{error}; heard {self.said()}") from None
 
     def errors(self):
-        """What Orca could not deal with."""
-        return self.errors_file.read_text(encoding="utf-8") if self.errors_file.exists() else ""
+        """What Orca could not deal with since this was last asked."""
+        if not self.errors_file.exists():
+            return ""
+        errors = self.errors_file.read_text(encoding="utf-8")
+        self.errors_file.unlink()
+        return errors
