@@ -42,13 +42,17 @@ bool HasKeyboard(const QWidget& widget) {
   return widget.hasFocus() || isOfMenu || widget.window()->windowType() == Qt::Popup;
 }
 
-// A list also tells of its current entry, and a text of its selection, while the keyboard is
-// elsewhere; readers would go there.
+// A list also tells of its current entry, and a text of its changes and its selection, while the
+// keyboard is elsewhere; readers would go there.
 bool LeadsAstray(const QAccessibleEvent& event, const QWidget& widget) {
   switch (event.type()) {
     case QAccessible::Focus:
       return widget.property(LeadsItself).toBool() || !HasKeyboard(widget);
+    case QAccessible::TextCaretMoved:
     case QAccessible::TextSelectionChanged:
+    case QAccessible::TextInserted:
+    case QAccessible::TextRemoved:
+    case QAccessible::TextUpdated:
       return !HasKeyboard(widget);
     default:
       return false;
