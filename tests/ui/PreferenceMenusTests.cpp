@@ -283,3 +283,11 @@ TEST_F(PreferenceMenusTest, AreFoundByAScreenReaderWhileTheyAreOpen) {
     EXPECT_EQ(dialog.childCount(), before);
   });
 }
+
+TEST_F(PreferenceMenusTest, NamesASwatchByItsSystemColor) {
+  Open("[Chessboard]\nUse Images=0\nLight Color=-2147483643\n");
+  InPreferences([](frmPreferences& window) {
+    EXPECT_EQ(Child<QWidget>(window, "picLight").accessibleName(),
+              "Light color, Window Background");
+  });
+}

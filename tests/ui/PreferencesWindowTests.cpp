@@ -291,6 +291,22 @@ TEST_F(PreferencesWindow, FollowsTheDesktopsColorsWhileItIsOpen) {
   });
 }
 
+TEST_F(PreferencesWindow, NamesASwatchByTheColorThatItShows) {
+  Open("[Chessboard]\nUse Images=0\nLight Color=255\n");
+  InPreferences([](frmPreferences& window) {
+    EXPECT_EQ(Child<QWidget>(window, "picLight").accessibleName(),
+              "Light color, red 255, green 0, blue 0");
+  });
+}
+
+TEST_F(PreferencesWindow, NamesASwatchByThePictureThatItShows) {
+  PictureFile("Wood Light.gif", Qt::red);
+  Open();
+  InPreferences([](frmPreferences& window) {
+    EXPECT_EQ(Child<QWidget>(window, "picLight").accessibleName(), "Light image, Wood Light.gif");
+  });
+}
+
 TEST_F(PreferencesWindow, GivesEveryControlAName) {
   Open();
   InPreferences([](frmPreferences& window) {
