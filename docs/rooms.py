@@ -13,9 +13,11 @@ ROOMS = {
     "app/main.cpp": (2, 0),
     "ui/windows": (2, 1),
     "ui/commands": (1, 2), "ui/help": (3, 2),
-    "solver": (0, 3), "app": (1, 3), "ui/board": (3, 3),
-    "storage": (1, 4), "ui/widgets": (2, 4), "ui/application": (3, 4),
-    "core": (1, 5),
+    "solver": (0, 3), "app": (1, 3), "ui/board": (2, 3),
+    "ui/application": (2, 4),
+    "ui/widgets": (2, 5),
+    "storage": (1, 6),
+    "core": (0, 7),
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
 BOX_WIDTH, BOX_HEIGHT, GAP_ACROSS, GAP_DOWN, MARGIN = 120, 32, 28, 44, 16
