@@ -137,7 +137,8 @@ class Desktop:
 
     def _start_window_manager(self):
         self._start(["openbox"])
-        wait_for(lambda: self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK").count("window id"),
+        # It says early that it is there; what is shown before it keeps a list of windows is lost to it.
+        wait_for(lambda: "(WINDOW)" in self.run("xprop", "-root", "_NET_CLIENT_LIST"),
                  "the window manager")
 
     def what_there_is(self):
