@@ -36,7 +36,7 @@ endfunction()
 
 # add_room_tests(ROOM sources...): the GoogleTest program ROOM_tests. Its tests are registered one by
 # one under the room's label; with GALLOPADE_WHOLE_TESTS the program is one test, which is quicker.
-# Tests with windows say WINDOWS.
+# Tests with windows say WINDOWS; the others are compiled with GALLOPADE_TEST_FLAGS as well.
 function(add_room_tests room)
   cmake_parse_arguments(PARSE_ARGV 1 THIS "WINDOWS" "" "")
   set(program ${room}_tests)
@@ -46,8 +46,11 @@ function(add_room_tests room)
     TEST_DATA_DIRECTORY="${PROJECT_SOURCE_DIR}/tests/data/")
   if(THIS_WINDOWS)
     share_window_test_headers(${program})
-  elseif(GALLOPADE_PCH)
-    target_precompile_headers(${program} PRIVATE <gtest/gtest.h>)
+  else()
+    target_compile_options(${program} PRIVATE ${GALLOPADE_TEST_FLAGS})
+    if(GALLOPADE_PCH)
+      target_precompile_headers(${program} PRIVATE <gtest/gtest.h>)
+    endif()
   endif()
   if(GALLOPADE_WHOLE_TESTS)
     add_test(NAME ${room} COMMAND ${program} --gtest_brief=1)
