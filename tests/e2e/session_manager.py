@@ -4,6 +4,7 @@ It reads commands, one a line: "end" asks the program to save itself because the
 unasked" forbids it to ask anything, "die" lets it go. It prints what the program does.
 """
 
+import atexit
 import ctypes
 import select
 import sys
@@ -96,6 +97,8 @@ def main():
     session = Session()
     anybody = CFUNCTYPE(c_int, c_char_p)(lambda _: 1)
     error = ctypes.create_string_buffer(256)
+    forgiving = CFUNCTYPE(None, c_void_p)(lambda _: None)  # otherwise a program that ends ends us too
+    ice.IceSetIOErrorHandler(forgiving)
     sm.SmsInitialize(b"test", b"1", session.new_client, None, anybody, len(error), error)
     count, sockets = c_int(), POINTER(c_void_p)()
     if not ice.IceListenForConnections(byref(count), byref(sockets), len(error), error):
@@ -103,6 +106,8 @@ def main():
     listening = [c_void_p(sockets[row]) for row in range(count.value)]
     for listener in listening:
         ice.IceSetHostBasedAuthProc(listener, anybody)
+    # A socket that is left behind is in the way of the next manager that gets this process's number.
+    atexit.register(ice.IceFreeListenObjs, count, sockets)
     tell(ice.IceComposeNetworkIdList(count, sockets).decode())
 
     numbers = {ice.IceGetListenConnectionNumber(listener): listener for listener in listening}

@@ -16,6 +16,7 @@ PROGRAM_DIRECTORY = None
 TITLE = "^Gallopade Nova($|:| -)"
 SCORES = "^Low Scores$"
 HELP = "^Gallopade Nova Help$"
+MANAGER_SECONDS = 10  # to end by itself when it is told nothing more
 SIGNALS = (signal.SIGTERM, signal.SIGHUP, signal.SIGINT)
 # One move, to A8, is left in it.
 NEARLY_OVER = "20\r\n1 2\r\n3 3\r\n2 1\r\n" + "-1 -1\r\n" * 61
@@ -220,8 +221,11 @@ class TheSession(EndingTest):
         self.assertEqual(self.told(), "registered")
 
     def end_manager(self):
-        self.manager.kill()
-        self.manager.communicate()
+        try:
+            self.manager.communicate(timeout=MANAGER_SECONDS)
+        except subprocess.TimeoutExpired:
+            self.manager.kill()
+            self.manager.communicate()
 
     def told(self):
         return self.manager.stdout.readline().strip()
