@@ -46,8 +46,9 @@ void Game::ValidMove(int x, int y) {
 }
 
 void Game::MoveUnseen(int x, int y) {
-  PlaceKnight(Row(x, y));
-  ListMove(Row(x, y));
+  const MoveRow move = Row(x, y);
+  PlaceKnight(move);
+  ListMove(move);
 }
 
 void Game::PlaceKnight(MoveRow move) {

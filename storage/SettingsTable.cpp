@@ -91,8 +91,11 @@ struct FieldReader {
   template <typename Choice>
   void operator()(Choice Settings::*field) const {
     using Number = std::underlying_type_t<Choice>;
-    settings.*field = static_cast<Choice>(static_cast<Number>(
-        sizeof(Number) == sizeof(std::int16_t) ? LenientInt16(text) : LenientInt32(text)));
+    if constexpr (std::is_same_v<Number, std::int16_t>) {
+      settings.*field = static_cast<Choice>(LenientInt16(text));
+    } else {
+      settings.*field = static_cast<Choice>(LenientInt32(text));
+    }
   }
   bool IsInRange(int number) const {
     return number >= row.range.lowest && number <= row.range.highest;

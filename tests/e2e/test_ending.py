@@ -234,6 +234,10 @@ class TheSession(EndingTest):
         self.manager.stdin.write(command + "\n")
         self.manager.stdin.flush()
 
+    def ends_with_the_session(self):
+        self.say("die")
+        self.assertEqual(exit_status(self.process), 0)
+
     def answer(self, key):
         question = self.desktop.window(r"^Exit\?$")
         self.desktop.focus(question)
@@ -258,8 +262,7 @@ class TheSession(EndingTest):
         self.answer("alt+y")
         self.assertEqual(self.told(), "saved")
         self.settings_are_kept()
-        self.say("die")
-        self.assertEqual(exit_status(self.process), 0)
+        self.ends_with_the_session()
         self.nothing_is_left()
 
     def test_asks_behind_no_dialog(self):
@@ -268,8 +271,7 @@ class TheSession(EndingTest):
         self.say("end")
         self.answer("alt+y")
         self.assertEqual(self.told(), "saved")
-        self.say("die")
-        self.assertEqual(exit_status(self.process), 0)
+        self.ends_with_the_session()
         self.settings_are_kept()
 
     def test_asks_nothing_where_that_is_forbidden(self):
@@ -285,8 +287,7 @@ class TheSession(EndingTest):
         self.say("end")
         self.assertEqual(self.told(), "saved")
         self.settings_are_kept()
-        self.say("die")
-        self.assertEqual(exit_status(self.process), 0)
+        self.ends_with_the_session()
 
     def test_that_was_to_end_asks_again_after_another_move(self):
         self.say("end")

@@ -24,8 +24,8 @@ constexpr const char* ImageFilter =
     "Windows Images (*.bmp;*.dib;*.rle)|*.bmp; *.dib; *.rle|"
     "All Files (*.*)|*.*";
 
-// Values that files may hold and the options do not have act like one of the options.
-// The options stand in the order of the numbers.
+// The options stand in the order of the numbers. Values that files may hold and no option has act
+// like one of the options.
 int OptionOf(Highlighting method) {
   const bool highlights =
       method == Highlighting::CursorPosition || method == Highlighting::ValidMovesOnly;
