@@ -1,29 +1,24 @@
 #pragma once
 
 #include <QAccessible>
-#include <QAccessibleInterface>
+
+#include "ui/application/AccessibleLeaf.h"
 
 // Something that is said to a screen reader, or where it is said: seen by nobody, and listed
 // nowhere.
-class SpokenObject : public QAccessibleInterface {
+class SpokenObject : public AccessibleLeaf {
  public:
   // parent: 0 for the whole program.
   SpokenObject(QAccessible::Role role, QAccessible::Id parent, const QString& name)
       : role_(role), parent_(parent), name_(name) {}
 
-  bool isValid() const override { return true; }
-  QObject* object() const override { return nullptr; }
   QAccessibleInterface* parent() const override;
-  QAccessibleInterface* child(int) const override { return nullptr; }
-  QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-  int childCount() const override { return 0; }
   // Readers ignore what its parent does not know.
   int indexOfChild(const QAccessibleInterface*) const override { return 0; }
   QAccessible::Role role() const override { return role_; }
   QAccessible::State state() const override { return {}; }
   QRect rect() const override { return {}; }
   QString text(QAccessible::Text kind) const override;
-  void setText(QAccessible::Text, const QString&) override {}
 
  private:
   QAccessible::Role role_;

@@ -5,6 +5,7 @@
 #include <QAccessibleWidget>
 
 #include "core/Square.h"
+#include "ui/application/AccessibleLeaf.h"
 
 class BoardView;
 
@@ -54,7 +55,7 @@ class AccessibleBoard : public QAccessibleWidget, public QAccessibleTableInterfa
 };
 
 // One square of it.
-class AccessibleSquare : public QAccessibleInterface,
+class AccessibleSquare : public AccessibleLeaf,
                          public QAccessibleTableCellInterface,
                          public QAccessibleActionInterface {
  public:
@@ -63,18 +64,11 @@ class AccessibleSquare : public QAccessibleInterface,
   int Index() const { return index_; }
 
   void* interface_cast(QAccessible::InterfaceType type) override;
-  bool isValid() const override { return true; }
-  QObject* object() const override { return nullptr; }
   QAccessibleInterface* parent() const override;
-  QAccessibleInterface* child(int) const override { return nullptr; }
-  QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-  int childCount() const override { return 0; }
-  int indexOfChild(const QAccessibleInterface*) const override { return -1; }
   QAccessible::Role role() const override { return QAccessible::Cell; }
   QAccessible::State state() const override;
   QRect rect() const override;
   QString text(QAccessible::Text text) const override;
-  void setText(QAccessible::Text, const QString&) override {}
 
   bool isSelected() const override { return false; }
   QList<QAccessibleInterface*> columnHeaderCells() const override { return {}; }
