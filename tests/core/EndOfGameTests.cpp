@@ -93,7 +93,7 @@ TEST_F(EndOfGame, IsNotAnnouncedBeforeTheLastMove) {
 
 TEST_F(EndOfGame, OffersTheReplayOfAGameThatMayNotScore) {
   Begin();
-  state.NoScoreGame = true;
+  game.ExcludeFromScores();
   PlaySquares(game, Games::DeadEndAfter20);
   EXPECT_EQ(LastAnnouncement(), "EndGame View &Replay|There are no more valid moves.|20|0");
 }
