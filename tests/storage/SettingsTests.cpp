@@ -123,6 +123,26 @@ TEST_F(LoadedSettings, TakeOnlyTheText1ForUsingImagesAndBorders) {
   }
 }
 
+TEST_F(LoadedSettings, ReadEachChoiceByItsNumber) {
+  const auto startingPosition = [&](const QByteArray& number) {
+    return Load("Position", "Starting Position=" + number).StartingPosition;
+  };
+  EXPECT_EQ(startingPosition("0"), FirstSquare::Stored);
+  EXPECT_EQ(startingPosition("1"), FirstSquare::PlayersChoice);
+  EXPECT_EQ(startingPosition("2"), FirstSquare::Random);
+  const auto positioning = [&](const QByteArray& number) {
+    return Load("Chessboard", "Image Positioning=" + number).ImagePositioning;
+  };
+  EXPECT_EQ(positioning("0"), Positioning::Stretched);
+  EXPECT_EQ(positioning("1"), Positioning::Centred);
+  const auto highlighting = [&](const QByteArray& number) {
+    return Load("Highlight", "Highlighting Method=" + number).HighlightingMethod;
+  };
+  EXPECT_EQ(highlighting("0"), Highlighting::None);
+  EXPECT_EQ(highlighting("1"), Highlighting::CursorPosition);
+  EXPECT_EQ(highlighting("2"), Highlighting::ValidMovesOnly);
+}
+
 TEST_F(LoadedSettings, UseOtherIntegersAsTheyStand) {
   EXPECT_EQ(Load("Position", "Starting Position=7").StartingPosition, static_cast<FirstSquare>(7));
   EXPECT_EQ(Load("Position", "Starting X=-3").StartingX, -3);
