@@ -69,7 +69,6 @@ bool Enter(const QString& pathName, ScoreList list, const FinishedGame& game, co
 namespace {
 
 constexpr int NotAllowedCode = 77;
-constexpr unsigned Nobody = 65534;
 
 [[noreturn]] void RunChild(const std::function<bool()>& enter, const std::function<void()>& body) {
   if (!enter()) _exit(NotAllowedCode);
