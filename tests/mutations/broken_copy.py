@@ -29,8 +29,8 @@ def fault_test(name):
 
 
 def test_from_outside(name):
-    return ("GallopadeNova", [["/usr/bin/python3", "-B", f"tests/e2e/test_{name}.py",
-                               "build/dev/GallopadeNova"]])
+    test = ["/usr/bin/python3", "-B", f"tests/e2e/test_{name}.py", "build/dev/GallopadeNova"]
+    return ("GallopadeNova program_directory", [test])
 
 
 # What is built for each, and what must notice.
@@ -70,8 +70,8 @@ class BrokenCopy:
 
     def result(self, check):
         """What a check says to the copy as it is."""
-        target, tests = CHECKS[check]
-        if not self._succeeds(["cmake", "--build", "build/dev", "--target", target]):
+        targets, tests = CHECKS[check]
+        if not self._succeeds(["cmake", "--build", "build/dev", "--target", *targets.split()]):
             return DOES_NOT_COMPILE
         passes = all(self._succeeds(test, preexec_fn=set_limits) for test in tests)
         return NOT_NOTICED if passes else NOTICED
