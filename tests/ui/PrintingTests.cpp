@@ -94,6 +94,18 @@ TEST_F(Printing, SaysSorryWhenThereIsNoPrintCommand) {
   Print(Outcome::Message);
 }
 
+TEST_F(Printing, IsNoLongerUnderWayWhenTheMessageOpens) {
+  OpenGame(3);
+  Read("mnuViewHistory", [this](frmHistory& history, QListWidget&) {
+    WhenNextModalOpens([&](QWidget& message) {
+      EXPECT_FALSE(IsPrinting(history));
+      message.close();
+    });
+    Child<QAction>(history, "mnuEditPrint").trigger();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return AllVisitsMade(); }));
+  });
+}
+
 TEST_F(Printing, CanBeTriedAgain) {
   PrintBy("[ -e tried ] && exec cat > page.pdf\ntouch tried\nexit 1\n");
   OpenGame(3);

@@ -54,9 +54,8 @@ class BesideTheBoard {
 }  // namespace
 
 ScreenWindows::ScreenWindows(frmGame& mainWindow) : mainWindow_(mainWindow), printer_({}) {
-  QObject::connect(&printer_, &DefaultPrinter::Finished, &printer_, [this](bool printed) {
-    if (!printed) ReportPrintingFailure();
-  });
+  QObject::connect(&printer_, &DefaultPrinter::Failed, &printer_,
+                   [this] { ReportPrintingFailure(); });
 }
 
 // The window that asked for the printing tells it at once; when that is closed, the main window

@@ -77,5 +77,6 @@ void DefaultPrinter::Finish(bool printed) {
   question_.Stop();
   makeDocument_ = nullptr;
   emit Finished(printed);
+  if (!printed) emit Failed();
   stay_.reset();
 }

@@ -35,6 +35,8 @@ class DefaultPrinter : public QObject {
  signals:
   // Not printed: nothing of it is left with the server, as far as that can be told.
   void Finished(bool printed);
+  // After all have heard that it was not printed.
+  void Failed();
 
  private:
   void Send(const QByteArray& answers);
