@@ -34,13 +34,6 @@ Replaced ReplaceBy(SavingFile& file, const OpenFolder& folder, const WrittenFile
   return IsRefusedByFolder() ? Replaced::NotInThisWay : Replaced::No;
 }
 
-std::optional<ProgramError> Empty(const OpenFolder& folder, const QByteArray& name) {
-  const WrittenFile file(folder, name);
-  if (file.Error() || !file.IsThere()) return file.Error();
-  if (file.Overwrite({})) return std::nullopt;
-  return Error();
-}
-
 }  // namespace
 
 std::optional<ProgramError> ReplaceFile(const OpenFolder& folder, const QByteArray& name,
@@ -69,11 +62,10 @@ std::optional<ProgramError> WriteFile(const QString& pathName, const QByteArray&
 std::optional<ProgramError> ClearFile(const OpenFolder& folder, const FilePlace& place) {
   const char* name = place.name.constData();
   struct stat status {};
-  if (fstatat(folder.Number(), name, &status, AT_SYMLINK_NOFOLLOW) == 0) {
-    if (place.isLinked || status.st_nlink > 1) return Empty(folder, place.name);
-    if (unlinkat(folder.Number(), name, 0) == 0 && folder.Sync()) return std::nullopt;
-    if (IsRefusedByFolder()) return Empty(folder, place.name);
+  if (fstatat(folder.Number(), name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
+    return errno == ENOENT ? std::nullopt : Error();
   }
-  if (errno == ENOENT) return std::nullopt;
-  return Error();
+  const bool hasOneName = !place.isLinked && status.st_nlink == 1;
+  if (hasOneName && unlinkat(folder.Number(), name, 0) == 0 && folder.Sync()) return std::nullopt;
+  return ReplaceFile(folder, place.name, {});
 }

@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include <QDir>
 #include <QFile>
 
@@ -61,6 +63,23 @@ TEST_F(AKeptFile, IsClearedAway) {
   EXPECT_EQ(Value(), "");
 }
 
+TEST_F(AKeptFile, IsEmptiedWhereItsFolderLetsNothingGo) {
+  Put("x.ini", "[S]\nKey=1\n");
+  const auto setMode = [](const QString& name, mode_t mode) {
+    ASSERT_EQ(chmod(QFile::encodeName(name).constData(), mode), 0);
+  };
+  setMode(PathOf("x.ini"), 0666);
+  setMode(Folder(), 0555);
+  const Apart outcome = RunApart(BecomeOrdinaryUser, [this] {
+    file_.Clear();
+    EXPECT_TRUE(file_.IsSaved());
+  });
+  setMode(Folder(), 0755);
+  EXPECT_EQ(outcome, Apart::Passed);
+  EXPECT_EQ(ContentOf(PathOf("x.ini")), "");
+  EXPECT_EQ(Names(), QStringList{"x.ini"});
+}
+
 TEST_F(AKeptFile, MayBeClearedWhereItIsMissing) {
   file_.Clear();
   EXPECT_TRUE(file_.IsSaved());
@@ -102,6 +121,11 @@ TEST_F(AKeptFile, DoesNotWaitForAnotherCopy) {
   file_.Save(Wait::Not);
   EXPECT_EQ(ContentOf(PathOf("x.ini")), "[T]\r\nKey=theirs\r\n[S]\r\nKey=1\r\n");
   EXPECT_EQ(waits_, 2);
+}
+
+TEST_F(AKeptFile, HasALockThatCanBeWaitedFor) {
+  const OpenFolder folder(QFile::encodeName(Folder()));
+  EXPECT_EQ(folder.Lock(Wait::AsLongAsItTakes), FolderLock::Taken);
 }
 
 TEST_F(AKeptFile, LosesNoScoreThatHadToWait) {
