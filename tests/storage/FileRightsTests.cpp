@@ -105,8 +105,10 @@ TEST_F(AReplacedFile, OfAFriendIsWrittenOverWhereOnlyOwnersMayRemoveFiles) {
 
 TEST_F(AReplacedFile, KeepsItsAttributes) {
   if (!SetAttribute(Path(), "user.note", "mine")) GTEST_SKIP() << "no attributes here";
+  const ino_t before = Status().st_ino;
   Replace();
   EXPECT_EQ(Attribute("user.note"), "mine");
+  EXPECT_NE(Status().st_ino, before);
 }
 
 TEST_F(AReplacedFile, KeepsItsAccessList) {
