@@ -4,6 +4,7 @@
 #include <langinfo.h>
 
 #include <QRegularExpression>
+#include <QSizeF>
 
 namespace {
 
