@@ -76,10 +76,12 @@ TEST_F(AReplacedFile, KeepsItsOwnerAndGroup) {
   if (chown(Path().constData(), Stranger, Club) != 0) {
     GTEST_SKIP() << "files cannot be given away here";
   }
+  const ino_t before = Status().st_ino;
   Replace();
   EXPECT_EQ(Status().st_uid, Stranger);
   EXPECT_EQ(Status().st_gid, Club);
   EXPECT_EQ(Mode(), 0664U);
+  EXPECT_NE(Status().st_ino, before);
 }
 
 // As in a folder that friends share: the file is a friend's, and may be written by all.
