@@ -84,7 +84,11 @@ def serve(commands, command):
         answer({"AUDIO": "207 OK RECEIVING AUDIO SETTINGS",
                 "LOGLEVEL": "207 OK RECEIVING LOGLEVEL SETTINGS",
                 "SET": "203 OK RECEIVING SETTINGS"}[command])
-        commands.block()
+        settings = commands.block()
+        if "audio_output_method=server" in settings:
+            # The server then also follows sounds that never come, and loses ends on the way.
+            answer("300 ERR THE VOICE HAS ITS OWN AUDIO")
+            return
         answer({"AUDIO": "203 OK AUDIO INITIALIZED", "LOGLEVEL": "203 OK LOG LEVEL SET",
                 "SET": "203 OK SETTINGS RECEIVED"}[command])
     elif command in ("SPEAK", "CHAR", "KEY", "SOUND_ICON"):
