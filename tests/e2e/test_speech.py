@@ -259,6 +259,14 @@ class Help(SpeechTest):
         self.says("Down", "Visit all 64 squares")
         self.says("Escape", "Gallopade Nova.*frame", "A8, knight")
 
+    def test_a_page_is_read_by_word_and_by_character(self):
+        self.open_help()
+        self.says("ctrl+Right", r"\bto\b")
+        self.says("ctrl+Right", r"\bGallopade\b")
+        self.says("Right", r"\ba\b")
+        self.says("ctrl+End", "Press F1")
+        self.says("Down", "Press F1")
+
     def test_a_search_says_what_it_finds_and_opens_it(self):
         self.open_help()
         self.says("ctrl+f", "Search for words")

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -74,10 +75,24 @@ void HelpPage::Find(const QString& word) {
 }
 
 void HelpPage::LeadReader() {
-  QTextCursor line = textCursor();
-  line.movePosition(QTextCursor::StartOfLine);
-  line.movePosition(QTextCursor::EndOfLine, QTextCursor::KeepAnchor);
-  reader_.LeadTo(cursorRect(), line.selectedText());
+  Read(PageReading::Unit::Line);
+}
+
+void HelpPage::Read(PageReading::Unit unit) {
+  reader_.LeadTo(cursorRect(), PageReading::At(textCursor(), unit));
+}
+
+// Where the text cursor has been moved, readers read what they believe the key to be for. A slow
+// machine tells them of the key when it is late for that, Orca takes the word for a letter once the
+// key is released, and at the end of the page they hear of nothing at all.
+void HelpPage::keyPressEvent(QKeyEvent* event) {
+  const PageReading::Unit unit = PageReading::After(*event);
+  if (unit == PageReading::Unit::None) return QTextBrowser::keyPressEvent(event);
+  {
+    const ReaderEvents::Silence silence;
+    QTextBrowser::keyPressEvent(event);
+  }
+  Read(unit);
 }
 
 void HelpPage::focusInEvent(QFocusEvent* event) {

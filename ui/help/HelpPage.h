@@ -3,6 +3,7 @@
 #include <QTextBrowser>
 
 #include "ui/application/ReaderCursor.h"
+#include "ui/help/PageReading.h"
 
 class HelpBook;
 
@@ -29,6 +30,7 @@ class HelpPage : public QTextBrowser {
  protected:
   QVariant loadResource(int type, const QUrl& name) override;
   void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void changeEvent(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
@@ -37,6 +39,7 @@ class HelpPage : public QTextBrowser {
  private:
   void MakeLinksLegible();
   void PutCursorInSight();
+  void Read(PageReading::Unit unit);
   bool GoToLink(bool next);
 
   const HelpBook& book_;

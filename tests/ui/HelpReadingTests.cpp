@@ -1,0 +1,74 @@
+// What is read aloud of a page of the help after a key.
+
+#include <QKeyEvent>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <gtest/gtest.h>
+
+#include "ui/help/PageReading.h"
+
+using PageReading::Unit;
+
+namespace {
+
+Unit ReadAfter(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+  return PageReading::After(QKeyEvent(QEvent::KeyPress, key, modifiers));
+}
+
+class PageIsRead : public testing::Test {
+ protected:
+  PageIsRead() {
+    page.setPlainText("The knight, free.\n\nThe end");
+    cursor.movePosition(QTextCursor::Start);
+  }
+
+  std::string At(const QString& text, Unit unit) {
+    cursor = page.find(text, 0);
+    cursor.setPosition(cursor.selectionStart());
+    return PageReading::At(cursor, unit).toStdString();
+  }
+
+  QTextDocument page;
+  QTextCursor cursor{&page};
+};
+
+}  // namespace
+
+TEST_F(PageIsRead, ByLineUpAndDownAndFromEndToEnd) {
+  for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown}) {
+    EXPECT_EQ(ReadAfter(key), Unit::Line);
+  }
+  EXPECT_EQ(ReadAfter(Qt::Key_Home, Qt::ControlModifier), Unit::Line);
+  EXPECT_EQ(ReadAfter(Qt::Key_End, Qt::ControlModifier), Unit::Line);
+  EXPECT_EQ(At("free", Unit::Line), "The knight, free.");
+}
+
+TEST_F(PageIsRead, ByWordWithCtrl) {
+  EXPECT_EQ(ReadAfter(Qt::Key_Right, Qt::ControlModifier), Unit::Word);
+  EXPECT_EQ(ReadAfter(Qt::Key_Left, Qt::ControlModifier), Unit::Word);
+  EXPECT_EQ(At("knight", Unit::Word), "knight");
+}
+
+TEST_F(PageIsRead, ByCharacterOtherwise) {
+  for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End}) {
+    EXPECT_EQ(ReadAfter(key), Unit::Character);
+  }
+  EXPECT_EQ(At("knight", Unit::Character), "k");
+}
+
+TEST_F(PageIsRead, NeverInSilence) {
+  EXPECT_EQ(At(" knight", Unit::Character), "space");
+  cursor.movePosition(QTextCursor::NextBlock);
+  for (const Unit unit : {Unit::Character, Unit::Word, Unit::Line}) {
+    EXPECT_EQ(PageReading::At(cursor, unit).toStdString(), "blank");
+  }
+  cursor.movePosition(QTextCursor::End);
+  EXPECT_EQ(PageReading::At(cursor, Unit::Line), "The end");
+  EXPECT_EQ(PageReading::At(cursor, Unit::Character), "blank");
+}
+
+TEST_F(PageIsRead, OnlyByKeysThatMoveTheCursor) {
+  EXPECT_EQ(ReadAfter(Qt::Key_Return), Unit::None);
+  EXPECT_EQ(ReadAfter(Qt::Key_Tab), Unit::None);
+  EXPECT_EQ(ReadAfter(Qt::Key_Down, Qt::ShiftModifier), Unit::None);
+}
