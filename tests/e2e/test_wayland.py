@@ -23,12 +23,15 @@ startup-animation=none
 close-animation=none
 animation=none
 focus-animation=none
+panel-position=none
 background-color=0xff002040
 """
+BACKGROUND = "srgb(0,32,64)"
 # Of the screen, where the game hides the background.
 MIDDLE = "400x400+440+200"
-# Of the title bar that Qt draws for a maximised window, below the compositor's panel.
-MINIMISE_BUTTON = (SCREEN[0] - 58, 44)
+# Of the title bar that Qt draws for a maximised window. The compositor has no panel: it may come
+# after the window, which lies below it then and not beside it.
+MINIMISE_BUTTON = (SCREEN[0] - 58, 12)
 RESTING_SECONDS = 1.6
 
 
@@ -49,11 +52,14 @@ class WaylandDesktop(Desktop):
         wait_for((Path(self.folder) / "wayland-test").exists, "the compositor")
         self.environment.update(WAYLAND_DISPLAY="wayland-test", QT_QPA_PLATFORM="wayland")
         os.environ.update(self.environment)
+        self.run("xdotool", "mousemove", *map(str, MINIMISE_BUTTON))
+        wait_for(self.is_bare, "the background")
 
-
-def is_bare():
-    """Whether the middle of the screen shows nothing but the background."""
-    return DESKTOP.run("import", "-window", "root", "-crop", MIDDLE, "-format", "%k", "info:-") == "1"
+    def is_bare(self):
+        """Whether the middle of the screen shows nothing but the background."""
+        colours = self.run("import", "-window", "root", "-crop", MIDDLE, "-format",
+                           "%k %[pixel:p{0,0}]", "info:-")
+        return colours == f"1 {BACKGROUND}"
 
 
 class Wayland(unittest.TestCase):
@@ -101,14 +107,14 @@ class Wayland(unittest.TestCase):
         """A click that comes too early is lost; one on the bare desktop does nothing."""
         def gone():
             DESKTOP.click(*MINIMISE_BUTTON)
-            return is_bare()
+            return DESKTOP.is_bare()
         READER.wait_for(gone, "the window to be minimised")
 
     def bring_back(self):
         """By the keys for the next window, which do nothing to the only one."""
         def shown():
             DESKTOP.run("xdotool", "keydown", "super", "key", "Tab", "keyup", "super")
-            return not is_bare()
+            return not DESKTOP.is_bare()
         READER.wait_for(shown, "the window to be shown again")
 
     def ended(self):
@@ -169,7 +175,7 @@ class Wayland(unittest.TestCase):
 
 if __name__ == "__main__":
     PROGRAM_DIRECTORY = Path(sys.argv.pop(1))
-    need("weston", "Xvfb", "xdotool")
+    need("weston", "Xvfb", "xdotool", "import")
     if not list(PLUGINS.glob("*/qt6/plugins/platforms/libqwayland-*.so")):
         print("skipped, not installed: qt6-wayland")
         sys.exit(77)
