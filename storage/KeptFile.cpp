@@ -1,5 +1,14 @@
 #include "storage/KeptFile.h"
 
+namespace {
+
+// What is left to be written when the file has everything, but the disk may not.
+QByteArray NoChange(const QByteArray& text) {
+  return text;
+}
+
+}  // namespace
+
 QByteArray KeptFile::WithChanges(QByteArray text) const {
   for (const IniChange& change : unsaved_) text = change(text);
   return text;
@@ -29,5 +38,6 @@ void KeptFile::Save(Wait wait) {
   const auto change = [this](const QByteArray& text) { return WithChanges(text); };
   const Stored stored = ChangeIniText(pathName_, change, wait);
   if (stored == Stored::Yes) unsaved_.clear();
+  if (stored == Stored::NotForSure) unsaved_ = {NoChange};
   if (stored == Stored::NotYet) onWaiting();
 }

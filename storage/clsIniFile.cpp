@@ -7,10 +7,6 @@ namespace {
 
 constexpr qsizetype LargestFile = qsizetype{1024} * 1024;
 
-Stored StoredUnless(const std::optional<ProgramError>& error) {
-  return error ? Stored::No : Stored::Yes;
-}
-
 // Does the work on a place while nobody else changes a file of its folder.
 template <typename Work>
 Stored WhileLocked(const QString& pathName, Wait wait, const Work& work) {
@@ -19,16 +15,25 @@ Stored WhileLocked(const QString& pathName, Wait wait, const Work& work) {
   const OpenFolder folder(place.folder);
   if (!folder.IsOpen()) return Stored::No;
   if (folder.Lock(wait) == FolderLock::AnotherHasIt) return Stored::NotYet;
-  return StoredUnless(work(folder, place));
+  return work(folder, place);
 }
 
-std::optional<ProgramError> Change(const OpenFolder& folder, const QByteArray& name,
-                                   const FileContent& content, const IniChange& change) {
-  if (content.error && content.error != ProgramError::FileNotFound) return content.error;
+// What failed may have been the very last step.
+Stored Replace(const OpenFolder& folder, const QByteArray& name, const QString& pathName,
+               const QByteArray& text) {
+  if (!ReplaceFile(folder, name, text)) return Stored::Yes;
+  const FileContent now = ReadIniText(pathName);
+  return !now.error && now.bytes == text ? Stored::NotForSure : Stored::No;
+}
+
+Stored Change(const OpenFolder& folder, const QByteArray& name, const QString& pathName,
+              const IniChange& change) {
+  const FileContent content = ReadIniText(pathName);
+  if (content.error && content.error != ProgramError::FileNotFound) return Stored::No;
   const QByteArray text = change(content.bytes);
-  if (text == content.bytes) return std::nullopt;
-  if (text.size() > LargestFile) return ProgramError::Overflow;
-  return ReplaceFile(folder, name, text);
+  if (text == content.bytes) return folder.Sync() ? Stored::Yes : Stored::NotForSure;
+  if (text.size() > LargestFile) return Stored::No;
+  return Replace(folder, name, pathName, text);
 }
 
 QString PlaceText(const QString& pathName, const QString& section, const QString& key) {
@@ -84,10 +89,12 @@ FileContent ReadIniText(const QString& pathName) {
 
 Stored ChangeIniText(const QString& pathName, const IniChange& change, Wait wait) {
   return WhileLocked(pathName, wait, [&](const OpenFolder& folder, const FilePlace& place) {
-    return Change(folder, place.name, ReadIniText(pathName), change);
+    return Change(folder, place.name, pathName, change);
   });
 }
 
 Stored ClearIniText(const QString& pathName, Wait wait) {
-  return WhileLocked(pathName, wait, ClearFile);
+  return WhileLocked(pathName, wait, [](const OpenFolder& folder, const FilePlace& place) {
+    return ClearFile(folder, place) ? Stored::No : Stored::Yes;
+  });
 }

@@ -31,8 +31,9 @@ def may_trace():
 class Save:
     """A file in a folder of its own, and the saver that writes it."""
 
-    def __init__(self, saver, folder, kind, start):
+    def __init__(self, saver, folder, kind, start, again=False):
         self.saver = saver
+        self.again = ["again"] if again else []
         self.folder = Path(folder)
         self.path = self.folder / "file"
         self.kind = kind
@@ -63,7 +64,7 @@ class Save:
         return sorted((path.name, path.is_symlink()) for path in self.folder.iterdir())
 
     def command(self):
-        return [self.saver, self.kind, str(self.path)]
+        return [self.saver, self.kind, str(self.path), *self.again]
 
     def save(self, *tracer):
         return subprocess.run([*tracer, *self.command()], capture_output=True,

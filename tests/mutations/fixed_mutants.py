@@ -75,6 +75,10 @@ MUTANTS = (
     ("storage/KeptFile.cpp", "if (stored == Stored::NotYet) onWaiting();", "", "storage"),
     ("storage/KeptFile.cpp", "if (stored == Stored::Yes) unsaved_.clear();", "unsaved_.clear();",
      "storage"),
+    ("storage/KeptFile.cpp", "  if (stored == Stored::NotForSure) unsaved_ = {NoChange};\n", "",
+     "faults"),
+    ("storage/clsIniFile.cpp", "folder.Sync() ? Stored::Yes : Stored::NotForSure", "Stored::Yes",
+     "faults"),
     ("storage/clsIniFile.cpp", "LargestFile = qsizetype{1024} * 1024",
      "LargestFile = qsizetype{1024} * 1024 - 1", "storage"),
     ("storage/clsIniFile.cpp", "if (text.size() > LargestFile)", "if (text.size() >= LargestFile)",
@@ -84,9 +88,11 @@ MUTANTS = (
     ("storage/GameFile.cpp", "number - 1 > Limits::max()", "number > Limits::max()", "storage"),
 
     # What others lose or get through a file.
-    ("storage/clsIniFile.cpp", "return WhileLocked(pathName, wait, ClearFile);",
-     "const FilePlace place = PlaceBehindLinks(pathName);\n  std::ignore = wait;\n"
-     "  return StoredUnless(ClearFile(OpenFolder(place.folder), place));", "storage"),
+    ("storage/clsIniFile.cpp", "return WhileLocked(pathName, wait, [](const OpenFolder& folder,",
+     "const FilePlace found = PlaceBehindLinks(pathName);\n  std::ignore = wait;\n"
+     "  const auto unlocked = [&](const auto& work) "
+     "{ return work(OpenFolder(found.folder), found); };\n"
+     "  return unlocked([](const OpenFolder& folder,", "storage"),
     ("storage/SavingFile.cpp", "getrandom(&number, sizeof number, 0) != sizeof number", "false",
      "storage"),
     ("storage/ScoreLists.cpp", "while (place < ScoreRowCount && MovesAt(rows, place) > 0 &&",
