@@ -7,7 +7,7 @@ from desktop import wait_for
 # What is asked waits so long for an answer; a busy machine needs more than the usual second.
 ANSWER_MILLISECONDS = 20000
 HEARD = ("object:state-changed:focused", "object:property-change:accessible-name",
-         "object:property-change:accessible-description", "window:activate")
+         "object:property-change:accessible-description", "window:activate", "mouse:button")
 # What must have a name, whether or not it takes the keyboard. The bars of a scroll area are part of it.
 CONTROLS = {"check box", "check menu item", "combo box", "list", "list item", "menu item", "page tab",
             "push button", "radio button", "radio menu item", "slider", "spin button", "table",
