@@ -10,7 +10,9 @@
 
 namespace {
 
+// Each change costs a reader several questions. One that is busy with them says late what matters.
 constexpr int TellingMilliseconds = 100;
+constexpr int RestingMilliseconds = 1000;
 
 class AccessibleValue : public QAccessibleWidget {
  public:
@@ -53,10 +55,11 @@ ValueLabel::ValueLabel(PicturePace& pace, const QString& longest, QWidget* paren
   setFixedSize(fontMetrics().size(Qt::TextSingleLine, longest));
   setAttribute(Qt::WA_OpaquePaintEvent);
   tellScreenReader_.setSingleShot(true);
-  tellScreenReader_.setInterval(TellingMilliseconds);
-  connect(&tellScreenReader_, &QTimer::timeout, this, [this] {
+  connect(&tellScreenReader_, &QTimer::timeout, this, [this, told = QString()]() mutable {
+    if (std::exchange(told, Text()) == Text()) return;
     QAccessibleEvent event(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&event);
+    tellScreenReader_.start(RestingMilliseconds);
   });
 }
 
@@ -65,7 +68,7 @@ void ValueLabel::ShowValue(std::int64_t value, Wording wording) {
   value_ = value;
   wording_ = wording;
   picture_.Changed();
-  if (!tellScreenReader_.isActive()) tellScreenReader_.start();
+  if (!tellScreenReader_.isActive()) tellScreenReader_.start(TellingMilliseconds);
 }
 
 // On a screen with another scale everything is drawn anew, and in the other colours that a style

@@ -18,8 +18,8 @@ QString AsSquare(std::int64_t value);
 // A label of the size of its longest text, for a value that may change a million times a second.
 // Its text is put together when it is painted, asked for or told to a screen reader, and at no
 // other time. A new value moves nothing, has nothing painted behind it and is made of characters
-// that were drawn before. A screen reader that asks gets the value; of changes it is told a few
-// times a second.
+// that were drawn before. A screen reader that asks gets the value; of changes it is told soon, but
+// no more than once a second.
 class ValueLabel : public QWidget {
   Q_OBJECT
 
