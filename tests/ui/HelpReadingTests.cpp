@@ -25,7 +25,10 @@ class PageIsRead : public testing::Test {
   std::string At(const QString& text, Unit unit) {
     cursor = page.find(text, 0);
     cursor.setPosition(cursor.selectionStart());
-    return PageReading::At(cursor, unit).toStdString();
+    return AtCursor(unit);
+  }
+  std::string AtCursor(Unit unit) {
+    return PageReading::Spoken(PageReading::At(cursor, unit).selectedText()).toStdString();
   }
 
   QTextDocument page;
@@ -60,11 +63,16 @@ TEST_F(PageIsRead, NeverInSilence) {
   EXPECT_EQ(At(" knight", Unit::Character), "space");
   cursor.movePosition(QTextCursor::NextBlock);
   for (const Unit unit : {Unit::Character, Unit::Word, Unit::Line}) {
-    EXPECT_EQ(PageReading::At(cursor, unit).toStdString(), "blank");
+    EXPECT_EQ(AtCursor(unit), "blank");
   }
   cursor.movePosition(QTextCursor::End);
-  EXPECT_EQ(PageReading::At(cursor, Unit::Line), "The end");
-  EXPECT_EQ(PageReading::At(cursor, Unit::Character), "blank");
+  EXPECT_EQ(AtCursor(Unit::Line), "The end");
+  EXPECT_EQ(AtCursor(Unit::Character), "blank");
+}
+
+TEST_F(PageIsRead, WithTheNamesOfItsSigns) {
+  EXPECT_EQ(At(",", Unit::Character), "comma");
+  EXPECT_EQ(At(".", Unit::Word), "dot");
 }
 
 TEST_F(PageIsRead, OnlyByKeysThatMoveTheCursor) {

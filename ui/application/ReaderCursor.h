@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "ui/application/SpokenObject.h"
 
 class QRect;
@@ -14,8 +16,9 @@ class ReaderCursor {
   // The widget outlives the cursor.
   explicit ReaderCursor(QWidget& widget);
 
-  // place: in the widget.
-  void LeadTo(const QRect& place, const QString& text);
+  // place: in the widget. onward: what readers go on with when they are to read all that follows.
+  void LeadTo(const QRect& place, const QString& text,
+              std::unique_ptr<QAccessibleTextInterface> onward = nullptr);
 
  private:
   QWidget& widget_;

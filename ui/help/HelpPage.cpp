@@ -1,5 +1,7 @@
 #include "ui/help/HelpPage.h"
 
+#include <memory>
+
 #include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
@@ -7,6 +9,7 @@
 #include <QWheelEvent>
 
 #include "ui/application/ReaderEvents.h"
+#include "ui/application/SpokenText.h"
 #include "ui/help/HelpBook.h"
 
 namespace {
@@ -79,7 +82,20 @@ void HelpPage::LeadReader() {
 }
 
 void HelpPage::Read(PageReading::Unit unit) {
-  reader_.LeadTo(cursorRect(), PageReading::At(textCursor(), unit));
+  const QTextCursor read = PageReading::At(textCursor(), unit);
+  Tell(PageReading::Spoken(read.selectedText()), read.selectionStart());
+}
+
+// A reader that is to read on begins with what it was told, and leaves the text cursor where it
+// ended.
+void HelpPage::Tell(const QString& text, int from) {
+  reader_.LeadTo(cursorRect(), text,
+                 std::make_unique<SpokenText>(toPlainText().mid(from), [this, from](int onward) {
+                   QTextCursor cursor(document());
+                   cursor.setPosition(from + onward);
+                   const ReaderEvents::Silence silence;
+                   setTextCursor(cursor);
+                 }));
 }
 
 // Where the text cursor has been moved, readers read what they believe the key to be for. A slow
@@ -113,8 +129,8 @@ bool HelpPage::GoToLink(bool next) {
 bool HelpPage::focusNextPrevChild(bool next) {
   const bool found = GoToLink(next);
   if (hasFocus()) {
-    const QString link = textCursor().selectedText();
-    if (!link.isEmpty()) reader_.LeadTo(cursorRect(), link + ", link");
+    const QTextCursor link = textCursor();
+    if (link.hasSelection()) Tell(link.selectedText() + ", link", link.selectionStart());
   } else if (QWidget* other = QApplication::focusWidget()) {
     QAccessibleEvent event(other, QAccessible::Focus);
     QAccessible::updateAccessibility(&event);

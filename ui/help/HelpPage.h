@@ -40,6 +40,7 @@ class HelpPage : public QTextBrowser {
   void MakeLinksLegible();
   void PutCursorInSight();
   void Read(PageReading::Unit unit);
+  void Tell(const QString& text, int from);
   bool GoToLink(bool next);
 
   const HelpBook& book_;

@@ -4,7 +4,6 @@
 #include <iterator>
 
 #include <QKeyEvent>
-#include <QTextCursor>
 
 using PageReading::Unit;
 
@@ -32,6 +31,19 @@ constexpr Movement Movements[] = {
     {QKeySequence::MoveToEndOfDocument, Unit::Line},
 };
 
+// Alone, they are not spoken.
+struct Sign {
+  const char* sign;
+  const char* name;
+};
+
+constexpr Sign Signs[] = {
+    {".", "dot"},        {",", "comma"},       {";", "semicolon"},    {":", "colon"},
+    {"!", "exclaim"},    {"?", "question"},    {"\"", "quote"},       {"'", "apostrophe"},
+    {"(", "left paren"}, {")", "right paren"}, {"[", "left bracket"}, {"]", "right bracket"},
+    {"+", "plus"},       {"-", "dash"},        {"*", "star"},         {"/", "slash"},
+};
+
 QTextCursor::MoveOperation EndOf(Unit unit) {
   switch (unit) {
     case Unit::Line:
@@ -52,12 +64,19 @@ Unit PageReading::After(const QKeyEvent& key) {
   return found == std::end(Movements) ? Unit::None : found->unit;
 }
 
-QString PageReading::At(const QTextCursor& cursor, Unit unit) {
+QTextCursor PageReading::At(const QTextCursor& cursor, Unit unit) {
   QTextCursor read = cursor;
   read.clearSelection();
   if (unit == Unit::Line) read.movePosition(QTextCursor::StartOfLine);
   read.movePosition(EndOf(unit), QTextCursor::KeepAnchor);
-  const QString text = read.selectedText();
-  if (!text.trimmed().isEmpty()) return text.trimmed();
-  return text == " " && unit == Unit::Character ? "space" : "blank";
+  return read;
+}
+
+QString PageReading::Spoken(const QString& text) {
+  if (text == " ") return "space";
+  const QString trimmed = text.trimmed();
+  if (trimmed.isEmpty()) return "blank";
+  const auto* const sign = std::find_if(std::begin(Signs), std::end(Signs),
+                                        [&](const Sign& known) { return trimmed == known.sign; });
+  return sign == std::end(Signs) ? trimmed : sign->name;
 }

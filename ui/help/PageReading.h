@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QString>
+#include <QTextCursor>
 
 class QKeyEvent;
-class QTextCursor;
 
 // How a page is read aloud, key by key.
 namespace PageReading {
@@ -14,7 +13,10 @@ enum class Unit { None, Character, Word, Line };
 // selects.
 Unit After(const QKeyEvent& key);
 
-// What the cursor has reached; never empty.
-QString At(const QTextCursor& cursor, Unit unit);
+// What the cursor has reached, selected.
+QTextCursor At(const QTextCursor& cursor, Unit unit);
+
+// The text in words where it is none or a sign; never empty.
+QString Spoken(const QString& text);
 
 }  // namespace PageReading
