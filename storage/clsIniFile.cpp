@@ -2,6 +2,7 @@
 
 #include "storage/FileWriter.h"
 #include "storage/PathName.h"
+#include "storage/WrittenFile.h"
 
 namespace {
 
@@ -14,7 +15,11 @@ Stored WhileLocked(const QString& pathName, Wait wait, const Work& work) {
   const FilePlace place = PlaceBehindLinks(pathName);
   const OpenFolder folder(place.folder);
   if (!folder.IsOpen()) return Stored::No;
-  if (folder.Lock(wait) == FolderLock::AnotherHasIt) return Stored::NotYet;
+  if (TakeLock(folder.Number(), wait) == FileLock::AnotherHasIt) return Stored::NotYet;
+  // With other names it is written from other folders, too, and always stays the same file.
+  const WrittenFile file(folder, place.name);
+  const bool isShared = file.IsThere() && file.HasOtherNames();
+  if (isShared && TakeLock(file.Number(), wait) == FileLock::AnotherHasIt) return Stored::NotYet;
   return work(folder, place);
 }
 

@@ -5,13 +5,13 @@
 
 #include <QString>
 
+#include "storage/FileLock.h"
 #include "storage/FileReader.h"
 #include "storage/IniText.h"
-#include "storage/OpenFolder.h"
 
-// What became of a change. NotForSure: the file has it, but the disk did not say that it will keep it;
-// whatever is changed next, even nothing, asks the disk again. NotYet: another running copy of the
-// program is changing a file of the same folder.
+// What became of a change. NotForSure: the file has it, but the disk did not say that it will keep
+// it; whatever is changed next, even nothing, asks the disk again. NotYet: another running copy of
+// the program is changing the file, or one of the same folder.
 enum class Stored { Yes, NotForSure, NotYet, No };
 
 // Gives the text that a file is to have, from the one that it has now (empty when there is no

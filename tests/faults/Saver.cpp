@@ -1,6 +1,6 @@
-// Saves one thing in the way the program does: saver KIND FILE [again]. Ends with 0 when it was saved
-// and with 1 when it was not, which is all that a player is told. With "again", what the program
-// keeps when it could not be saved is tried a second time, as at the end of the program.
+// Saves one thing in the way the program does: saver KIND FILE [again]. Ends with 0 when it was
+// saved and with 1 when it was not, which is all that a player is told. With "again", what the
+// program keeps when it could not be saved is tried a second time, as at the end of the program.
 
 #include <functional>
 #include <map>

@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QFile>
 
+#include "storage/FileLock.h"
+#include "storage/OpenFolder.h"
 #include "storage/clsIniFile.h"
 #include "tests/storage/TestFiles.h"
 
@@ -150,7 +152,7 @@ TEST_F(TheIniFile, IsNotReplacedWhenItCannotBeRead) {
 TEST_F(TheIniFile, IsNotWrittenWhileAnotherCopyHoldsItsFolder) {
   const QString path = Put("x.ini", "[S]\nKey=1\n");
   const OpenFolder other(QFile::encodeName(Folder()));
-  ASSERT_EQ(other.Lock(Wait::Not), FolderLock::Taken);
+  ASSERT_EQ(TakeLock(other.Number(), Wait::Not), FileLock::Taken);
   EXPECT_NE(ErrorOfWriting(path, "2"), "");
   EXPECT_EQ(ContentOf(path), "[S]\nKey=1\n");
 }

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 
+#include "storage/FileLock.h"
 #include "storage/KeptFile.h"
 #include "storage/OpenFolder.h"
 #include "tests/storage/TestFiles.h"
@@ -100,7 +101,7 @@ TEST_F(AKeptFile, ForgetsWhatWasToBeWrittenWhenItIsCleared) {
 TEST_F(AKeptFile, CountsAsClearedWhenItCouldNotBe) {
   const QString path = Put("x.ini", "[S]\nKey=1\n");
   const OpenFolder other(QFile::encodeName(Folder()));
-  ASSERT_EQ(other.Lock(Wait::Not), FolderLock::Taken);
+  ASSERT_EQ(TakeLock(other.Number(), Wait::Not), FileLock::Taken);
   file_.Clear();
   EXPECT_EQ(Value(), "");
   EXPECT_EQ(ContentOf(path), "[S]\nKey=1\n");
@@ -109,7 +110,7 @@ TEST_F(AKeptFile, CountsAsClearedWhenItCouldNotBe) {
 TEST_F(AKeptFile, DoesNotWaitForAnotherCopy) {
   {
     const OpenFolder other(QFile::encodeName(Folder()));
-    ASSERT_EQ(other.Lock(Wait::Not), FolderLock::Taken);
+    ASSERT_EQ(TakeLock(other.Number(), Wait::Not), FileLock::Taken);
     Change("1");
     EXPECT_EQ(waits_, 1);
     file_.Save(Wait::Not);
@@ -125,14 +126,14 @@ TEST_F(AKeptFile, DoesNotWaitForAnotherCopy) {
 
 TEST_F(AKeptFile, HasALockThatCanBeWaitedFor) {
   const OpenFolder folder(QFile::encodeName(Folder()));
-  EXPECT_EQ(folder.Lock(Wait::AsLongAsItTakes), FolderLock::Taken);
+  EXPECT_EQ(TakeLock(folder.Number(), Wait::AsLongAsItTakes), FileLock::Taken);
 }
 
 TEST_F(AKeptFile, LosesNoScoreThatHadToWait) {
   const FinishedGame game{40, 100};
   {
     const OpenFolder other(QFile::encodeName(Folder()));
-    ASSERT_EQ(other.Lock(Wait::Not), FolderLock::Taken);
+    ASSERT_EQ(TakeLock(other.Number(), Wait::Not), FileLock::Taken);
     SaveScore(file_, ScoreList::High, game, "Ann");
     EXPECT_EQ(RowsFrom(file_.Values(), ScoreList::High)[0].name, "Ann");
   }

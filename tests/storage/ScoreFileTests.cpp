@@ -3,8 +3,15 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <QDir>
+#include <QFile>
+
 #include "storage/ScoreLists.h"
+#include "storage/clsIniFile.h"
 #include "tests/storage/TestFiles.h"
+
+using Times = std::array<int, ScoreRowCount>;
+constexpr Times FiveOfEach{0, 0, 1, 1, 2, 2, 3, 3, 4, 4};
 
 class TheScoreFile : public FolderTest {
  protected:
@@ -13,6 +20,25 @@ class TheScoreFile : public FolderTest {
   void Save(std::int16_t moves, std::int32_t time, const QString& name) const {
     const FinishedGame game{moves, time};
     EXPECT_TRUE(Enter(Path(), ListOf(game), game, name));
+  }
+  // For each path a copy of the program that saves five games.
+  static void SaveAtOnce(const std::vector<QString>& paths) {
+    for (const QString& path : paths) {
+      if (fork() != 0) continue;
+      for (std::int16_t game = 0; game < 5; ++game) {
+        EXPECT_TRUE(Enter(path, ScoreList::High, {40, game}, path));
+      }
+      _exit(HasFailure() ? 1 : 0);
+    }
+    int status = 0;
+    while (wait(&status) > 0) EXPECT_EQ(status, 0);
+  }
+  static Times TimesIn(const QString& path) {
+    Times times{};
+    const ScoreRows rows = ScoresIn(path, ScoreList::High);
+    std::transform(rows.begin(), rows.end(), times.begin(),
+                   [](const auto& row) { return row.time; });
+    return times;
   }
 };
 
@@ -148,15 +174,35 @@ TEST_F(TheScoreFile, TakesInWhatAnotherCopyWroteMeanwhile) {
 }
 
 TEST_F(TheScoreFile, LosesNoScoreOfCopiesThatSaveAtOnce) {
-  for (int copy = 0; copy < 2; ++copy) {
-    if (fork() != 0) continue;
-    for (int game = 0; game < 5; ++game) Save(40, game, QString("Copy %1").arg(copy));
-    _exit(HasFailure() ? 1 : 0);
-  }
-  int status = 0;
-  while (wait(&status) > 0) EXPECT_EQ(status, 0);
-  std::array<int, 10> times{};
-  const ScoreRows rows = ReadHigh();
-  std::transform(rows.begin(), rows.end(), times.begin(), [](const auto& row) { return row.time; });
-  EXPECT_EQ(times, (std::array<int, 10>{0, 0, 1, 1, 2, 2, 3, 3, 4, 4}));
+  SaveAtOnce({Path(), Path()});
+  EXPECT_EQ(TimesIn(Path()), FiveOfEach);
+}
+
+TEST_F(TheScoreFile, LosesNoScoreOfTwoFoldersThatShareIt) {
+  const QString path = Put("Scores.dat", "");
+  ASSERT_TRUE(QDir(Folder()).mkpath("hard") && QDir(Folder()).mkpath("symbolic"));
+  const QString hard = PathOf("hard/Scores.dat");
+  const QString symbolic = PathOf("symbolic/Scores.dat");
+  ASSERT_EQ(symlink("../Scores.dat", QFile::encodeName(symbolic).constData()), 0);
+  SaveAtOnce({path, symbolic});
+  EXPECT_EQ(TimesIn(path), FiveOfEach);
+
+  Put("Scores.dat", "");
+  ASSERT_EQ(link(QFile::encodeName(path).constData(), QFile::encodeName(hard).constData()), 0);
+  SaveAtOnce({symbolic, hard});
+  EXPECT_EQ(TimesIn(path), FiveOfEach);
+}
+
+TEST_F(TheScoreFile, IsWaitedForInTheOtherFolderToo) {
+  const QString path = Put("Scores.dat", "");
+  ASSERT_TRUE(QDir(Folder()).mkpath("other"));
+  const QString other = PathOf("other/Scores.dat");
+  ASSERT_EQ(link(QFile::encodeName(path).constData(), QFile::encodeName(other).constData()), 0);
+  const auto whileTheOtherSaves = [&](const QByteArray& text) {
+    const auto change = [](const QByteArray&) { return QByteArray("[S]\r\n"); };
+    EXPECT_EQ(ChangeIniText(path, change, Wait::Not), Stored::NotYet);
+    return text + ";\r\n";
+  };
+  EXPECT_EQ(ChangeIniText(other, whileTheOtherSaves, Wait::Not), Stored::Yes);
+  EXPECT_EQ(ContentOf(path), ";\r\n");
 }

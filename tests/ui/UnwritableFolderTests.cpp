@@ -3,6 +3,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "storage/FileLock.h"
 #include "storage/OpenFolder.h"
 #include "storage/ScoreLists.h"
 #include "tests/ui/PreferencesDesk.h"
@@ -79,7 +80,7 @@ class WhileAnotherCopyIsStopped : public PreferencesDesk {
  protected:
   void StopAnotherCopy() {
     other_.emplace(QFile::encodeName(QFileInfo(ProgramFile("x")).path()));
-    ASSERT_EQ(other_->Lock(Wait::Not), FolderLock::Taken);
+    ASSERT_EQ(TakeLock(other_->Number(), Wait::Not), FileLock::Taken);
   }
   void LetItGoOn() { other_.reset(); }
   ScoreRows LowScores() const {
