@@ -21,7 +21,11 @@ bool IsRefusedByFolder() {
   return errno == EACCES || errno == EPERM || errno == EROFS || errno == EBUSY;
 }
 
-enum class Replaced { Yes, No, NotInThisWay };
+// On a disk whose locks hold on one computer only, another one may take the saving file for left
+// and remove it.
+constexpr int MostSavingFiles = 5;
+
+enum class Replaced { Yes, No, NotInThisWay, FileIsGone };
 
 Replaced ReplaceBy(SavingFile& file, const OpenFolder& folder, const WrittenFile& old,
                    const QByteArray& name, const QByteArray& bytes) {
@@ -31,7 +35,18 @@ Replaced ReplaceBy(SavingFile& file, const OpenFolder& folder, const WrittenFile
     return Replaced::NotInThisWay;
   }
   if (file.TakeNameOf(name)) return folder.Sync() ? Replaced::Yes : Replaced::No;
+  if (errno == ENOENT) return Replaced::FileIsGone;
   return IsRefusedByFolder() ? Replaced::NotInThisWay : Replaced::No;
+}
+
+Replaced ReplaceByNewFile(const OpenFolder& folder, const WrittenFile& old, const QByteArray& name,
+                          const QByteArray& bytes) {
+  Replaced replaced = Replaced::FileIsGone;
+  for (int files = 0; replaced == Replaced::FileIsGone && files < MostSavingFiles; ++files) {
+    SavingFile file(folder, old.IsThere() ? ModeUntilRightsAreKnown : ModeOfNewFiles);
+    replaced = ReplaceBy(file, folder, old, name, bytes);
+  }
+  return replaced;
 }
 
 }  // namespace
@@ -42,8 +57,7 @@ std::optional<ProgramError> ReplaceFile(const OpenFolder& folder, const QByteArr
   const WrittenFile old(folder, name);
   if (old.Error()) return old.Error();
   RemoveLeftSavingFiles(folder, old.IsThere() ? old.Owner() : geteuid());
-  SavingFile file(folder, old.IsThere() ? ModeUntilRightsAreKnown : ModeOfNewFiles);
-  const Replaced replaced = ReplaceBy(file, folder, old, name, bytes);
+  const Replaced replaced = ReplaceByNewFile(folder, old, name, bytes);
   if (replaced == Replaced::Yes) return std::nullopt;
   if (replaced == Replaced::NotInThisWay && old.IsThere() && old.Overwrite(bytes)) {
     return std::nullopt;

@@ -3,8 +3,9 @@
     interlopers.py SAVER [--short]
 
 A stranger puts a link in the place of the file: what the link leads to stays as it is. Another copy
-of the program saves a file in the same folder: both are saved, and nothing else is left. And at no
-moment may anyone else read a file that is its owner's alone.
+of the program saves a file in the same folder: both are saved, and nothing else is left. Another
+computer, which sees no lock of this one, clears away what looks left: the file is saved nevertheless.
+And at no moment may anyone else read a file that is its owner's alone.
 """
 
 import itertools
@@ -76,6 +77,15 @@ def wrong_with_another_copy(save, call, number):
     return f"{save.names_there()} left" if save.names_there() != save.names else None
 
 
+def wrong_with_another_computer(save, call, number):
+    with StoppedSave(save, call, number) as stopped:
+        for path in save.folder.glob(".gallopade-saving-*"):
+            path.unlink()
+    if stopped.told != SAVED or save.content() != save.new:
+        return "not saved without its temporary"
+    return f"{save.names_there()} left" if save.names_there() != save.names else None
+
+
 def moments(save):
     """Each call of a save, from where it has found out which file is meant, and its number."""
     made = save.calls_in_order()
@@ -91,7 +101,7 @@ def main():
         print("skipped: strace is not installed, or may not trace here")
         return SKIPPED
     kinds = ("settings",) if short else OLD
-    deeds = (wrong_with_a_link, wrong_with_another_copy)
+    deeds = (wrong_with_a_link, wrong_with_another_copy, wrong_with_another_computer)
     starts = [start for start in STARTS if start in ("there", "twin")]
     runs, found = 0, []
     for kind, start in itertools.product(kinds, starts):

@@ -66,6 +66,7 @@ MUTANTS = (
     ("storage/PathName.cpp", "PlaceOf(path).folder + '/' + text", "text", "storage"),
     ("storage/PathName.cpp", "LongestChainOfLinks = 40", "LongestChainOfLinks = 41", "storage"),
     ("storage/FileWriter.cpp", "old.HasOtherNames() || ", "", "storage"),
+    ("storage/FileWriter.cpp", "  if (errno == ENOENT) return Replaced::FileIsGone;\n", "", "faults"),
     ("storage/clsIniFile.cpp", "isShared = file", "isShared = false && file", "storage"),
     ("storage/FileWriter.cpp", "!place.isLinked && ", "", "storage"),
     ("storage/FileRights.cpp", "!isOwned && fchown", "!isOwned && false && fchown",
