@@ -92,11 +92,11 @@ std::vector<IniEntry> ScoreEntries(ScoreList list, const ScoreRows& rows) {
   std::vector<IniEntry> entries;
   const QString section = ScoreSection(list);
   for (std::size_t row = 0; row < rows.size(); ++row) {
-    const bool isTimed = !rows[row].timeText.isEmpty();
+    const bool isEmpty = rows[row] == ScoreRow();
     entries.push_back({section, KeyOf("Name", row), rows[row].name});
     entries.push_back({section, KeyOf("Moves", row), rows[row].moves});
     entries.push_back(
-        {section, KeyOf("Time", row), isTimed ? QString::number(rows[row].time) : QString()});
+        {section, KeyOf("Time", row), isEmpty ? QString() : QString::number(rows[row].time)});
   }
   return entries;
 }

@@ -20,6 +20,7 @@ MUTANTS = (
     ("solver/TourSearch.cpp", "pauseAt_ = entries_ + entries", "pauseAt_ = entries_ + entries + 1",
      "solver"),
     ("storage/ScoreLists.cpp", ".time <= game.totalTime", ".time < game.totalTime", "storage"),
+    ("storage/ScoreLists.cpp", "rows[row] == ScoreRow()", "rows[row].timeText.isEmpty()", "storage"),
     ("storage/ScoreLists.cpp", ".time > game.totalTime", ".time >= game.totalTime", "storage"),
     ("storage/GameFile.cpp", "line->endsWith('-')", "line->startsWith('-')", "storage"),
     ("storage/GameFile.cpp", "if (x != -1) file.failure", "if (x != -2) file.failure", "storage"),

@@ -61,6 +61,15 @@ TEST_F(TheScoreFile, HasEmptyValuesForEmptyRows) {
   EXPECT_EQ(values.at("High Scores/Time 2"), "");
 }
 
+TEST_F(TheScoreFile, HasATimeForEveryRowThatIsNotEmpty) {
+  Put("Scores.dat", "[High Scores]\nName 1=Ann\nMoves 2=50\nTime 3=0\n");
+  const auto values = ValuesOf(ScoreEntries(ScoreList::High, ReadHigh()));
+  EXPECT_EQ(values.at("High Scores/Time 1"), "0");
+  EXPECT_EQ(values.at("High Scores/Time 2"), "0");
+  EXPECT_EQ(values.at("High Scores/Time 3"), "0");
+  EXPECT_EQ(values.at("High Scores/Time 4"), "");
+}
+
 TEST_F(TheScoreFile, IsWrittenByteForByte) {
   Save(40, 0, "Ann");
   QByteArray text = "[High Scores]\r\nName 1=Ann\r\nMoves 1=40\r\nTime 1=0\r\n";
