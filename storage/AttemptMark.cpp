@@ -19,6 +19,12 @@ bool IsFree(int descriptor) {
   return flock(descriptor, LOCK_EX | LOCK_NB) == 0;
 }
 
+// Anything else of that name is somebody's file, and is not to be emptied.
+bool IsMark(const struct stat& status) {
+  return S_ISREG(status.st_mode) && status.st_nlink == 1 && status.st_uid == geteuid() &&
+         status.st_size <= 1;
+}
+
 }  // namespace
 
 // A byte in the file says that somebody is trying, and the lock that he is still alive. A copy that
@@ -29,7 +35,7 @@ AttemptMark::AttemptMark(const QString& pathName)
                  ModeOfNewFiles)) {
   if (!file_.IsOpen()) return;
   struct stat status {};
-  if (IsFree(file_.Number()) && fstat(file_.Number(), &status) == 0 && S_ISREG(status.st_mode)) {
+  if (IsFree(file_.Number()) && fstat(file_.Number(), &status) == 0 && IsMark(status)) {
     wasCutShortBefore_ = status.st_size > 0;
     SetLength(file_.Number(), 1);
   } else {

@@ -125,6 +125,8 @@ MUTANTS = (
      "if (true || std::ranges::find(pictureChunks, name) != ", "ui"),
     ("ui/widgets/pictures/MeteredBytes.cpp", "std::clock() >= until_", "false", "ui"),
     ("storage/AttemptMark.cpp", "status.st_size > 0", "status.st_size >= 0", "storage"),
+    ("storage/AttemptMark.cpp", "status.st_nlink == 1 && ", "", "storage"),
+    ("storage/AttemptMark.cpp", " &&\n         status.st_size <= 1", "", "storage"),
     ("ui/windows/game/frmGame.cpp", "if (mark.WasCutShortBefore()) {", "if (false) {", "ui"),
     ("ui/commands/ChessboardFiles.cpp", "  context.window.LoadPictures();\n  StoreEverything(context);",
      "  StoreEverything(context);\n  context.window.LoadPictures();", "ui"),

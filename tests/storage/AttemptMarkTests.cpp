@@ -71,3 +71,26 @@ TEST_F(AttemptMarks, LeaveWhatIsNotTheirsAlone) {
   EXPECT_FALSE(WasCutShort());
   EXPECT_EQ(ContentOf(other), "mine");
 }
+
+TEST_F(AttemptMarks, LeaveAFileOfTheirNameAlone) {
+  Put("mark", "my notes");
+  EXPECT_FALSE(WasCutShort());
+  EXPECT_EQ(ContentOf(name), "my notes");
+}
+
+TEST_F(AttemptMarks, LeaveAnotherNameOfAFileAlone) {
+  const QString other = Put("other", "1");
+  ASSERT_EQ(link(QFile::encodeName(other).constData(), QFile::encodeName(name).constData()), 0);
+  EXPECT_FALSE(WasCutShort());
+  EXPECT_EQ(ContentOf(other), "1");
+  EXPECT_TRUE(QFile::exists(name));
+}
+
+TEST_F(AttemptMarks, LeaveAStrangersFileAlone) {
+  Put("mark", "1");
+  if (chown(QFile::encodeName(name).constData(), Nobody, Nobody) != 0) {
+    GTEST_SKIP() << "files cannot be given away here";
+  }
+  EXPECT_FALSE(WasCutShort());
+  EXPECT_EQ(ContentOf(name), "1");
+}
