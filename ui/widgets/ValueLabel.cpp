@@ -50,17 +50,21 @@ QString AsSquare(std::int64_t value) {
 }
 
 ValueLabel::ValueLabel(PicturePace& pace, const QString& longest, QWidget* parent)
-    : QWidget(parent), picture_(pace, *this, [this] { update(); }) {
+    : QWidget(parent), pace_(pace), picture_(pace, *this, [this] { update(); }) {
   QAccessible::installFactory(MakeAccessible);
   setFixedSize(fontMetrics().size(Qt::TextSingleLine, longest));
   setAttribute(Qt::WA_OpaquePaintEvent);
   tellScreenReader_.setSingleShot(true);
-  connect(&tellScreenReader_, &QTimer::timeout, this, [this, told = QString()]() mutable {
-    if (std::exchange(told, Text()) == Text()) return;
-    QAccessibleEvent event(this, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&event);
-    tellScreenReader_.start(RestingMilliseconds);
-  });
+  tellScreenReader_.setInterval(TellingMilliseconds);
+  connect(&tellScreenReader_, &QTimer::timeout, this, &ValueLabel::TellScreenReader);
+}
+
+void ValueLabel::TellScreenReader() {
+  const bool isSoonAgain = sinceTold_.isValid() && !sinceTold_.hasExpired(RestingMilliseconds);
+  if (pace_.Work() != nullptr && isSoonAgain) return tellScreenReader_.start();
+  sinceTold_.start();
+  QAccessibleEvent event(this, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&event);
 }
 
 void ValueLabel::ShowValue(std::int64_t value, Wording wording) {
@@ -68,7 +72,7 @@ void ValueLabel::ShowValue(std::int64_t value, Wording wording) {
   value_ = value;
   wording_ = wording;
   picture_.Changed();
-  if (!tellScreenReader_.isActive()) tellScreenReader_.start(TellingMilliseconds);
+  if (!tellScreenReader_.isActive()) tellScreenReader_.start();
 }
 
 // On a screen with another scale everything is drawn anew, and in the other colours that a style

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 
+#include <QElapsedTimer>
 #include <QPixmap>
 #include <QTimer>
 #include <QWidget>
@@ -19,7 +20,7 @@ QString AsSquare(std::int64_t value);
 // Its text is put together when it is painted, asked for or told to a screen reader, and at no
 // other time. A new value moves nothing, has nothing painted behind it and is made of characters
 // that were drawn before. A screen reader that asks gets the value; of changes it is told soon, but
-// no more than once a second.
+// no more than once a second while a search is at work.
 class ValueLabel : public QWidget {
   Q_OBJECT
 
@@ -44,14 +45,17 @@ class ValueLabel : public QWidget {
     bool operator==(const Look&) const = default;
   };
 
+  void TellScreenReader();
   void Forget();
   void DrawBackground();
   const QPixmap& Character(QChar character);
 
   std::int64_t value_ = 0;
   Wording wording_ = AsNumber;
+  PicturePace& pace_;
   PacedPicture picture_;
   QTimer tellScreenReader_;
+  QElapsedTimer sinceTold_;
   Look look_;           // that of what was drawn before
   QPixmap background_;  // what its parent shows there, made when first needed
   std::map<QChar, QPixmap> characters_;
