@@ -4,6 +4,7 @@ import fcntl
 import os
 import signal
 import sys
+import time
 import unittest
 from pathlib import Path
 
@@ -11,6 +12,7 @@ from desktop import exit_status, need, wait_for
 from ending import HELP, SCORES, TITLE, EndingTest, SessionTest
 
 SIGNALS = (signal.SIGTERM, signal.SIGHUP, signal.SIGINT)
+REPEAT_SECONDS = (0, 0.0005, 0.002, 0.01)  # from the first signal to the second
 
 
 class Signals(EndingTest):
@@ -56,6 +58,23 @@ class Signals(EndingTest):
             self.process.send_signal(number)
         self.assertIn(-exit_status(self.process), SIGNALS)
         self.settings_are_kept()
+
+    def test_are_obeyed_once_though_they_come_twice(self):
+        for number in SIGNALS:
+            for delay in REPEAT_SECONDS:
+                with self.subTest(signal=number, delay=delay):
+                    self.prepare()
+                    self.start()
+                    self.process.send_signal(number)
+                    time.sleep(delay)
+                    self.ends_by(number)
+
+    def test_are_obeyed_once_by_a_process_and_its_group(self):
+        self.start()
+        self.open_help()
+        self.process.send_signal(signal.SIGTERM)
+        os.killpg(self.process.pid, signal.SIGTERM)
+        self.ends_by(signal.SIGTERM)
 
     def test_that_the_caller_ignores_stay_ignored(self):
         self.process = self.desktop.start_program(

@@ -134,6 +134,8 @@ MUTANTS = (
     # Ends from outside, and the rest of what a stranger meets first.
     ("ui/windows/game/frmGame.cpp", "  FinishSaving(globals_, Wait::AMoment);\n", "", "ending"),
     ("ui/windows/game/frmGame.cpp", "if (!exitAgreed_) return session.cancel();", "", "ending"),
+    ("ui/application/OutsideEnd.cpp", "action.sa_flags = SA_RESTART;",
+     "action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);", "ending"),
     ("ui/application/OutsideEnd.cpp", "if (current != nullptr) current->Leave();", "", "ending"),
     ("ui/help/HelpBook.cpp", "!file.isFile()", "false", "ui"),
     ("cmake/Hardening.cmake", "-Wl,-z,relro,-z,now,-z,noexecstack", "-Wl,-z,noexecstack",

@@ -1,8 +1,10 @@
 #include "ui/application/OutsideEnd.h"
 
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <ctime>
 #include <fcntl.h>
 #include <unistd.h>
 #include <utility>
@@ -10,10 +12,24 @@
 namespace {
 
 constexpr std::array Signals{SIGTERM, SIGHUP, SIGINT};
+constexpr time_t SecondsUntilStuck = 5;
 
 // Neither a signal nor exit() brings an object along; both find here what they are about.
 OutsideEnd* current = nullptr;
 volatile std::sig_atomic_t signalEnd = -1;
+
+std::atomic<time_t> firstSignal{0};
+static_assert(std::atomic<time_t>::is_always_lock_free);
+
+// Terminals, and whoever ends a process and its group, send the same signal twice in a breath: the
+// second must not end a program that is about to save. Later, it has not obeyed the first.
+bool IsStuck() {
+  timespec now{};
+  clock_gettime(CLOCK_MONOTONIC, &now);
+  time_t first = 0;
+  if (firstSignal.compare_exchange_strong(first, now.tv_sec)) return false;
+  return now.tv_sec - first >= SecondsUntilStuck;
+}
 
 // Does only what may be done in a signal handler.
 void PassOn(int signal) {
@@ -21,18 +37,21 @@ void PassOn(int signal) {
   const auto number = static_cast<unsigned char>(signal);
   // A pipe that is full has signals enough.
   [[maybe_unused]] const ssize_t written = write(signalEnd, &number, sizeof number);
+  if (IsStuck()) {
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+  }
   errno = error;
 }
 
-// Those that the caller wants ignored, as nohup does, stay so. A second signal of the same kind
-// ends the program at once, should it be stuck.
+// Those that the caller wants ignored, as nohup does, stay so.
 void CatchSignals() {
   for (const int signal : Signals) {
     struct sigaction action {};
     sigaction(signal, nullptr, &action);
     if (action.sa_handler != SIG_DFL) continue;
     action.sa_handler = PassOn;
-    action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
+    action.sa_flags = SA_RESTART;
     sigaction(signal, &action, nullptr);
   }
 }
