@@ -4,6 +4,7 @@
 #include <QIcon>
 
 #include "app/Globals.h"
+#include "app/Process.h"
 #include "ui/windows/game/frmGame.h"
 
 namespace {
@@ -33,6 +34,7 @@ int Play(Globals& globals, const std::string& commandLine) {
 }  // namespace
 
 int main(int argumentCount, char* arguments[]) {
+  TakeSizeLimitAsError();
   // All arguments are the game's: Qt is shown none, or it would take out those that it knows.
   int programAlone = 1;
   QApplication application(programAlone, arguments);

@@ -53,7 +53,6 @@ Replaced ReplaceByNewFile(const OpenFolder& folder, const WrittenFile& old, cons
 
 std::optional<ProgramError> ReplaceFile(const OpenFolder& folder, const QByteArray& name,
                                         const QByteArray& bytes) {
-  const WithoutSizeSignal quiet;
   const WrittenFile old(folder, name);
   if (old.Error()) return old.Error();
   RemoveLeftSavingFiles(folder, old.IsThere() ? old.Owner() : geteuid());

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cerrno>
-#include <csignal>
 #include <unistd.h>
 #include <utility>
 
@@ -35,29 +34,4 @@ class Descriptor {
 
  private:
   int number_;
-};
-
-// As long as this lives, a file that grows beyond what the process may write is an error of the
-// call, and not the signal that ends the program.
-class WithoutSizeSignal {
- public:
-  WithoutSizeSignal() {
-    sigemptyset(&signal_);
-    sigaddset(&signal_, SIGXFSZ);
-    pthread_sigmask(SIG_BLOCK, &signal_, &before_);
-  }
-  ~WithoutSizeSignal() {
-    const int reason = errno;
-    const timespec now{};
-    while (sigtimedwait(&signal_, nullptr, &now) > 0) {
-    }
-    pthread_sigmask(SIG_SETMASK, &before_, nullptr);
-    errno = reason;
-  }
-  WithoutSizeSignal(const WithoutSizeSignal&) = delete;
-  WithoutSizeSignal& operator=(const WithoutSizeSignal&) = delete;
-
- private:
-  sigset_t signal_{};
-  sigset_t before_{};
 };

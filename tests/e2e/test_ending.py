@@ -86,6 +86,28 @@ class Signals(EndingTest):
         self.assertIsNone(self.process.poll())
 
 
+class ALimitToFiles(EndingTest):
+    """Whoever has reached it is told by a signal, which ends a program that does not know it."""
+
+    def start_under(self, limit):
+        self.start_with_command("prlimit", f"--fsize={limit}", self.program / "GallopadeNova")
+        self.hide_time(": 1")
+
+    def test_that_allows_nothing_ends_nothing(self):
+        before = self.settings.read_text()
+        self.start_under(0)
+        self.open_help()
+        self.process.terminate()
+        self.assertEqual(exit_status(self.process), -signal.SIGTERM)
+        self.assertEqual(self.settings.read_text(), before)
+        self.nothing_is_left()
+
+    def test_that_the_help_exceeds_ends_nothing(self):
+        self.start_under(10240)
+        self.open_help()
+        self.ends_by(signal.SIGTERM)
+
+
 class AnotherCopy(EndingTest):
     """It has the folder to itself, until the program has seen the signal and cleared up."""
 
