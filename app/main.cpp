@@ -46,7 +46,7 @@ int main(int argumentCount, char* arguments[]) {
   QApplication::setLayoutDirection(Qt::LeftToRight);
 
   Globals globals;
-  globals.ProgramDirectory = QCoreApplication::applicationDirPath() + "/";
+  globals.ProgramDirectory = FolderOfProgram();
   const int result = Play(globals, CommandLine(argumentCount, arguments));
   // The window is gone, and a signal that comes now ends the program at once.
   FinishSaving(globals, Wait::AsLongAsItTakes);

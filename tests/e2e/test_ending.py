@@ -108,6 +108,15 @@ class ALimitToFiles(EndingTest):
         self.ends_by(signal.SIGTERM)
 
 
+class AFolderWithANameThatIsNoText(EndingTest):
+    def prepare(self):
+        super().prepare(os.fsdecode(b"caf\xe9"))
+
+    def test_keeps_the_settings(self):
+        self.start()
+        self.ends_by(signal.SIGTERM)
+
+
 class AnotherCopy(EndingTest):
     """It has the folder to itself, until the program has seen the signal and cleared up."""
 

@@ -1,6 +1,7 @@
 // What the help window says when its file is not one.
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
@@ -8,6 +9,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include "storage/PathName.h"
 #include "tests/ui/Desk.h"
 #include "ui/help/frmHelp.h"
 
@@ -65,6 +67,15 @@ TEST_F(BrokenHelp, SaysSoWhenAPipeHasItsName) {
 TEST_F(BrokenHelp, SaysSoWhenADeviceHasItsName) {
   ASSERT_TRUE(QFile::link("/dev/zero", directory.filePath("GallopadeNova.hlp")));
   ExpectMessage();
+}
+
+TEST_F(BrokenHelp, IsWholeInAFolderWhoseNameIsNoText) {
+  const QByteArray folder = QFile::encodeName(directory.path()) + "/caf\xE9/";
+  ASSERT_EQ(mkdir(folder.constData(), 0700), 0);
+  const QByteArray whole = QFile::encodeName(QString(HELP_FILE_DIRECTORY) + "GallopadeNova.hlp");
+  ASSERT_EQ(symlink(whole.constData(), (folder + "GallopadeNova.hlp").constData()), 0);
+  frmHelp help(PathFromBytes(folder));
+  EXPECT_EQ(help.findChild<QLabel*>("helpError"), nullptr);
 }
 
 TEST_F(BrokenHelp, SaysSoWhenAFolderHasItsName) {

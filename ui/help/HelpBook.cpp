@@ -1,7 +1,11 @@
 #include "ui/help/HelpBook.h"
 
+#include <unistd.h>
+
 #include <QFileInfo>
 #include <QHelpLink>
+
+#include "storage/PathName.h"
 
 namespace {
 
@@ -15,7 +19,7 @@ QUrl FirstOf(const QList<QHelpLink>& links) {
 }  // namespace
 
 HelpBook::HelpBook(const QString& pathName) : engine_(directory_.filePath("collection.qhc")) {
-  const QFileInfo file(pathName);
+  const QFileInfo file(NamedInText(pathName));
   if (!file.exists()) {
     error_ = "There is no such file.";
   } else if (!file.isFile()) {
@@ -24,6 +28,14 @@ HelpBook::HelpBook(const QString& pathName) : engine_(directory_.filePath("colle
   } else {
     Open(file.absoluteFilePath());
   }
+}
+
+// The name of the program's folder may be no text, which Qt needs to open the file. A link to it
+// has one that is.
+QString HelpBook::NamedInText(const QString& pathName) const {
+  const QString link = directory_.filePath("book.qch");
+  const QByteArray path = BytesOfPath(pathName);
+  return symlink(path.constData(), BytesOfPath(link).constData()) == 0 ? link : pathName;
 }
 
 void HelpBook::Open(const QString& pathName) {

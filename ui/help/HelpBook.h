@@ -33,6 +33,7 @@ class HelpBook {
   void RemoveTemporaryFiles() { directory_.remove(); }
 
  private:
+  QString NamedInText(const QString& pathName) const;
   void Open(const QString& pathName);
 
   QTemporaryDir directory_;
