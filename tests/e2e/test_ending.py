@@ -4,6 +4,7 @@ import fcntl
 import os
 import signal
 import sys
+import tempfile
 import time
 import unittest
 from pathlib import Path
@@ -216,6 +217,61 @@ class TheSession(SessionTest):
         self.move_again()
         self.desktop.close(self.game)
         self.desktop.window(r"^Exit\?$")
+
+
+class TheEndOfAProgramThatPrints(SessionTest):
+    """Its windows are closed, and the print command does not get any further."""
+
+    def prepare(self):
+        super().prepare()
+        commands = Path(self.enterContext(tempfile.TemporaryDirectory()))
+        self.paper = commands / "paper"
+        os.mkfifo(self.paper)
+        for name, script in (("lp", f"exec cat - '{self.paper}'"), ("lpstat", ""), ("lpoptions", "")):
+            (commands / name).write_text(f"#!/bin/sh\n{script}\n")
+            (commands / name).chmod(0o755)
+        self.desktop.environment["PATH"] = f"{commands}:{os.environ['PATH']}"
+        self.addCleanup(self.paper_comes)
+
+    def paper_comes(self):
+        """True when the print command was waiting for it."""
+        try:
+            os.close(os.open(self.paper, os.O_WRONLY | os.O_NONBLOCK))
+            return True
+        except OSError:
+            return False
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.press("alt+v", "m")
+        self.desktop.focus(self.desktop.window("^Move History$"))
+        self.desktop.press("alt+o", "p")
+        self.desktop.press("Escape")
+        wait_for(lambda: not self.desktop.has_window("^Move History$"), "the history to close")
+        self.desktop.focus(self.game)
+        self.open_help()
+        self.desktop.close(self.game)
+        self.answer("alt+y")
+        wait_for(lambda: not self.desktop.has_window("Gallopade Nova"), "the windows to close")
+        self.another_copy = "[Settings]\nShow Time=1\nSolve Refresh=7\n"
+        self.settings.write_text(self.another_copy)
+
+    def test_comes_when_it_has_printed(self):
+        self.assertIsNone(self.process.poll())
+        wait_for(self.paper_comes, "the print command to wait for paper")
+        self.assertEqual(exit_status(self.process), 0)
+        self.nothing_is_left()
+
+    def test_by_a_signal_leaves_the_settings_alone(self):
+        self.process.terminate()
+        self.assertEqual(exit_status(self.process), -signal.SIGTERM)
+        self.assertEqual(self.settings.read_text(), self.another_copy)
+        self.nothing_is_left()
+
+    def test_with_the_session_asks_nothing(self):
+        self.say("end")
+        self.assertEqual(self.told(), "saved")
+        self.assertEqual(self.settings.read_text(), self.another_copy)
 
 
 if __name__ == "__main__":

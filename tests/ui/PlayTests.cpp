@@ -1,5 +1,8 @@
+#include <algorithm>
+
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QApplication>
 #include <QTest>
 
 #include "tests/support/Games.h"
@@ -38,6 +41,16 @@ TEST_F(Play, BeginsWithTheKnightInTheCorner) {
   EXPECT_EQ(State().KnightX, 0);
   EXPECT_EQ(State().KnightY, 0);
   EXPECT_EQ(Window().windowTitle(), "Gallopade Nova: 1 - 0:00:00.0");
+}
+
+TEST_F(Play, EndsWithItsHelp) {
+  Open();
+  PressKey(Qt::Key_F1);
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto help = std::ranges::find(windows, "frmHelp", &QWidget::objectName);
+  ASSERT_TRUE(help != windows.end() && (*help)->isVisible());
+  EXPECT_TRUE(Close());
+  EXPECT_FALSE((*help)->isVisible());
 }
 
 TEST_F(Play, GivesTheBoardTheKeyboard) {

@@ -177,7 +177,10 @@ void frmGame::closeEvent(QCloseEvent* event) {
   if (!PlayerMayAct()) pace_.Hurry();
   if (auto* panel = findChild<SidePanel*>()) panel->CloseDialog();
   event->setAccepted(PlayerMayAct() && MayExit());
-  if (event->isAccepted()) SaveSettings();
+  if (!event->isAccepted()) return;
+  SaveSettings();
+  // The program may go on for what is being printed.
+  if (help_ != nullptr) help_->close();
 }
 
 // The shortcut of a disabled entry comes here. Who does not see the entry is told.
@@ -194,6 +197,7 @@ bool frmGame::MayExit() {
 // The session that is about to end closes the window later, if nobody has stopped it; or it does
 // not.
 void frmGame::CommitSession(QSessionManager& session) {
+  if (isHidden()) return;
   if (game_.GameInProgress() && session.allowsInteraction()) {
     exitAgreed_ = game_.Form_Unload();
     session.release();
@@ -202,9 +206,10 @@ void frmGame::CommitSession(QSessionManager& session) {
   SaveSettings();
 }
 
-// Whoever ends the program from outside does not wait for another copy for ever.
+// Whoever ends the program from outside does not wait for another copy for ever. A closed window
+// has saved its settings, and another copy may have been used since.
 void frmGame::LeaveUnasked() {
-  SaveSettings();
+  if (!isHidden()) SaveSettings();
   for (frmScores* scores : findChildren<frmScores*>()) scores->KeepScore();
   if (help_ != nullptr) help_->RemoveTemporaryFiles();
   FinishSaving(globals_, Wait::AMoment);
