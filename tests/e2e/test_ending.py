@@ -9,7 +9,7 @@ import time
 import unittest
 from pathlib import Path
 
-from desktop import exit_status, need, wait_for
+from desktop import Desktop, exit_status, need, wait_for
 from ending import HELP, SCORES, TITLE, EndingTest, SessionTest
 
 SIGNALS = (signal.SIGTERM, signal.SIGHUP, signal.SIGINT)
@@ -107,6 +107,37 @@ class ALimitToFiles(EndingTest):
         self.start_under(10240)
         self.open_help()
         self.ends_by(signal.SIGTERM)
+
+
+class WindowsBesideTheBoard(EndingTest):
+    """The main window moves aside for them on a narrow screen."""
+
+    def setUp(self):
+        self.desktop = self.enterContext(Desktop("800x900x24"))
+        self.prepare()
+        self.start()
+        self.home = self.desktop.geometry(self.game)[0]
+
+    def open_beside(self, title, *keys):
+        self.desktop.press(*keys)
+        self.desktop.focus(self.desktop.window(title))
+        wait_for(lambda: self.desktop.geometry(self.game)[0] != self.home, "the window to move")
+
+    def is_at_home_again(self):
+        self.start_with()
+        wait_for(lambda: self.desktop.geometry(self.game)[0] == self.home, "the window at home")
+
+    def test_are_not_what_the_place_of_the_window_is_kept_for(self):
+        self.open_beside("^Solve$", "alt+f", "l")
+        self.ends_by(signal.SIGTERM)
+        self.is_at_home_again()
+
+    def test_keep_the_speed_and_the_way_of_a_replay(self):
+        self.open_beside("^Replay$", "ctrl+r")
+        self.desktop.press("alt+m")
+        self.ends_by(signal.SIGHUP)
+        self.assertEqual(self.kept_settings()["Replay"]["Advancement"], "1")
+        self.is_at_home_again()
 
 
 class AFolderWithANameThatIsNoText(EndingTest):

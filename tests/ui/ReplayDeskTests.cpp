@@ -65,6 +65,16 @@ TEST_F(ReplayDesk, LeavesTheMainWindowWhereItWas) {
   EXPECT_EQ(Window().pos(), place);
 }
 
+TEST_F(ReplayDesk, LeavesThePlaceThatIsKeptAsItWas) {
+  OpenGame(10, Manual);
+  const QPoint place = Window().pos();
+  Replay([&](frmReplay&) {
+    EXPECT_NE(Window().pos(), place);
+    EXPECT_EQ(Window().Placement().Left, TwipsFromPixels(place.x()));
+    EXPECT_EQ(Window().Placement().Top, TwipsFromPixels(place.y()));
+  });
+}
+
 TEST_F(ReplayDesk, AdvancesByItsTimer) {
   OpenGame(4, Fast);
   Replay([&](frmReplay& replay) {

@@ -44,6 +44,7 @@ class frmReplay : public SecondaryWindow {
   // Every way of closing ends here. Asks before the rest of the game is left out, and saves the
   // replay's settings.
   void done(int result) override;
+  void SaveSettings();
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -79,7 +80,6 @@ class frmReplay : public SecondaryWindow {
   void BeginManual();
   void Advance();
   void Leave();
-  void SaveSettings();
 
   const CommandContext& context_;
   QTimer* tmrAdvance_ = nullptr;

@@ -31,13 +31,13 @@ class BesideTheBoard {
  public:
   BesideTheBoard(QDialog& dialog, frmGame& window) : window_(window) {
     if (WindowsHavePlaces()) {
-      formerPosition_ = PlaceBeside(dialog, window, window.Board());
+      window.StandAsideFrom(PlaceBeside(dialog, window, window.Board()));
     } else {
       panel_ = std::make_unique<SidePanel>(dialog, window);
     }
   }
   ~BesideTheBoard() {
-    if (formerPosition_) window_.move(*formerPosition_);
+    window_.ComeBack();
     if (panel_ == nullptr) return;
     panel_.reset();
     window_.Form_Resize();
@@ -48,7 +48,6 @@ class BesideTheBoard {
  private:
   frmGame& window_;
   std::unique_ptr<SidePanel> panel_;
-  std::optional<QPoint> formerPosition_;
 };
 
 }  // namespace

@@ -21,6 +21,7 @@
 #include "ui/commands/EndOfGame.h"
 #include "ui/commands/GameFiles.h"
 #include "ui/help/frmHelp.h"
+#include "ui/windows/frmReplay.h"
 #include "ui/windows/game/SidePanel.h"
 #include "ui/windows/scores/frmScores.h"
 
@@ -257,5 +258,6 @@ void frmGame::OpenGameFile(const QString& fileName) {
 }
 
 void frmGame::SaveSettings() {
+  for (frmReplay* replay : findChildren<frmReplay*>()) replay->SaveSettings();
   globals_.IniFile.Change(ExitEntries(globals_.settings, Placement(), IsMinimised()));
 }

@@ -60,6 +60,11 @@ class frmGame : public QMainWindow, public MainWindow {
   // Maximised, full-screen or in a tile: then it does not choose its size.
   bool HasGivenShape() const;
 
+  // For a dialog that wants room beside the board: the window was moved there from this place, if
+  // it was, and is still at home in it until it comes back.
+  void StandAsideFrom(std::optional<QPoint> place) { home_ = place; }
+  void ComeBack();
+
   // Opens the help at a keyword, or at its contents when the topic is empty.
   void GetHelp(const QString& helpTopic);
 
@@ -152,7 +157,8 @@ class frmGame : public QMainWindow, public MainWindow {
   // been seen in its normal state.
   std::optional<QPoint> decoration_;
   QElapsedTimer sinceShown_;
-  bool tiled_ = false;        // was given a size as soon as it was shown, and keeps to such sizes
-  QSize sizeBeforeSquaring_;  // the size that was last asked to change, invalid when it did
+  std::optional<QPoint> home_;  // while the window stands aside
+  bool tiled_ = false;          // was given a size as soon as it was shown, and keeps to such sizes
+  QSize sizeBeforeSquaring_;    // the size that was last asked to change, invalid when it did
   std::optional<OutsideEnd> outsideEnd_;  // from when the settings have been read
 };

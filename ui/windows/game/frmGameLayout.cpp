@@ -132,10 +132,15 @@ WindowPlacement frmGame::Placement() const {
                             .Width = TwipsFromPixels(bounds.width()),
                             .Maximised = isMaximized()};
   if (WindowsHavePlaces()) {
-    placement.Left = TwipsFromPixels(bounds.left());
-    placement.Top = TwipsFromPixels(bounds.top());
+    const QPoint place = home_.value_or(bounds.topLeft());
+    placement.Left = TwipsFromPixels(place.x());
+    placement.Top = TwipsFromPixels(place.y());
   }
   return placement;
+}
+
+void frmGame::ComeBack() {
+  if (const auto place = std::exchange(home_, std::nullopt)) move(*place);
 }
 
 void frmGame::moveEvent(QMoveEvent* event) {
