@@ -61,6 +61,9 @@ class Game {
   // A new game without any question.
   void StartNewGame();
   void mnuFileRestart_Click();
+  // The question before a player's Restart, and what follows if he says Yes.
+  bool MayRestart();
+  void Restart();
   // Leaves the present game for one from a file, whose moves are seen being made, untested.
   void OpenSavedGame(const SavedGame& saved);
   // The game may not enter the score lists.

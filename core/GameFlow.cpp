@@ -108,12 +108,20 @@ void Game::PlaceCursorOfFreshGame() {
 }
 
 void Game::mnuFileRestart_Click() {
+  if (MayRestart()) Restart();
+}
+
+bool Game::MayRestart() {
   const bool wasRunning = DoTiming();
-  if (!state_.ApplyingMoves &&
-      !window_.Ask("Restart?", "Are you sure you want to restart this game?")) {
-    window_.EnableClock(wasRunning);
-    return;
+  if (state_.ApplyingMoves ||
+      window_.Ask("Restart?", "Are you sure you want to restart this game?")) {
+    return true;
   }
+  window_.EnableClock(wasRunning);
+  return false;
+}
+
+void Game::Restart() {
   RewindToFirstSquare();
   SwitchMenus(window_, MenuChange::FreshGame);
   if (state_.ApplyingMoves) return;

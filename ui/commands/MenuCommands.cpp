@@ -9,8 +9,9 @@ void mnuFileNew_Click(const CommandContext& context) {
 }
 
 void mnuFileRestart_Click(const CommandContext& context) {
+  if (!context.game.MayRestart()) return;
   const WatchedWork walk(context.pace, context.state.MoveCount);
-  context.game.mnuFileRestart_Click();
+  context.game.Restart();
 }
 
 void mnuFileAutoplay_Click(const CommandContext& context) {
