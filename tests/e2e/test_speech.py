@@ -273,10 +273,6 @@ class Help(SpeechTest):
         self.says("ctrl+End", "Press F1")
         self.says("Down", "Press F1")
 
-    def test_the_reader_can_read_on_by_itself(self):
-        self.open_help()
-        self.says("KP_Add", "Welcome to Gallopade Nova", "There is a chess knight", "Lead the knight")
-
     def test_a_search_says_what_it_finds_and_opens_it(self):
         self.open_help()
         self.says("ctrl+f", "Search for words")

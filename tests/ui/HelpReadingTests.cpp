@@ -5,6 +5,7 @@
 #include <QTextDocument>
 #include <gtest/gtest.h>
 
+#include "ui/application/SpokenText.h"
 #include "ui/help/PageReading.h"
 
 using PageReading::Unit;
@@ -79,4 +80,21 @@ TEST_F(PageIsRead, OnlyByKeysThatMoveTheCursor) {
   EXPECT_EQ(ReadAfter(Qt::Key_Return), Unit::None);
   EXPECT_EQ(ReadAfter(Qt::Key_Tab), Unit::None);
   EXPECT_EQ(ReadAfter(Qt::Key_Down, Qt::ShiftModifier), Unit::None);
+}
+
+TEST(TextThatFollows, IsReadSentenceBySentence) {
+  const SpokenText text("A knight. An empty board.\nThe end", [](int) {});
+  int start = 0;
+  int end = 0;
+  EXPECT_EQ(text.textAtOffset(0, QAccessible::SentenceBoundary, &start, &end), "A knight. ");
+  EXPECT_EQ(text.textAtOffset(end, QAccessible::SentenceBoundary, &start, &end),
+            "An empty board.\n");
+  EXPECT_EQ(text.text(end, text.characterCount()), "The end");
+}
+
+TEST(TextThatFollows, TakesThePlayerToWhereTheReaderWasStopped) {
+  int place = 0;
+  SpokenText text("A knight. An empty board.", [&](int stopped) { place = stopped; });
+  text.setCursorPosition(10);
+  EXPECT_EQ(place, 10);
 }
