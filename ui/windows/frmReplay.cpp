@@ -106,8 +106,10 @@ QGroupBox* frmReplay::AddAdvanceFrame() {
   hsclSpeedSeekSet_->setObjectName("hsclSpeedSeekSet");
   hsclSpeedSeekSet_->setRange(1, SquareCount);
   connect(hsclSpeedSeekSet_, &ScrollBar::valueChanged, this, &frmReplay::hsclSpeedSeekSet_Change);
-  // The value is told later, after the bar's own name.
-  connect(hsclSpeedSeekSet_, &ScrollBar::Asked, this, &frmReplay::TellBar, Qt::QueuedConnection);
+  barReader_.emplace(*hsclSpeedSeekSet_);
+  // Told later, after the name of the window.
+  connect(hsclSpeedSeekSet_, &ScrollBar::Asked, this, &frmReplay::LeadReaderToBar,
+          Qt::QueuedConnection);
   auto* layout = new QGridLayout(frame);
   layout->addWidget(options->parentWidget(), 0, 0, 1, 2);
   layout->addWidget(hsclSpeedSeekSet_, 1, 0, 1, 2);
@@ -186,10 +188,19 @@ QString frmReplay::Spoken(int move) const {
          end;
 }
 
-// A screen reader knows only the number.
-void frmReplay::TellBar() {
+QString frmReplay::SpokenBar() const {
   const int value = hsclSpeedSeekSet_->value();
-  announcer_.Say(IsAutomatic() ? SpokenSpeed(value) : Spoken(value));
+  return IsAutomatic() ? SpokenSpeed(value) : Spoken(value);
+}
+
+void frmReplay::TellBar() {
+  announcer_.Say(SpokenBar());
+}
+
+// At the bar itself a screen reader would say its bare number, and each other one.
+void frmReplay::LeadReaderToBar() {
+  barReader_->LeadTo(hsclSpeedSeekSet_->rect(),
+                     hsclSpeedSeekSet_->accessibleName() + " scroll bar, " + SpokenBar());
 }
 
 void frmReplay::TellPosition(bool finished) {

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
+
 #include "ui/application/Announcer.h"
+#include "ui/application/ReaderCursor.h"
 #include "ui/commands/CommandContext.h"
 #include "ui/widgets/SecondaryWindow.h"
 
@@ -74,7 +77,9 @@ class frmReplay : public SecondaryWindow {
   QString Spoken(int move) const;
   void TellPosition(bool finished);
   void OfferButtons(bool finished);
+  QString SpokenBar() const;
   void TellBar();
+  void LeadReaderToBar();
   void SetBar(int maximum, int value, int largeStep);
   void BeginAutomatic();
   void BeginManual();
@@ -99,4 +104,5 @@ class frmReplay : public SecondaryWindow {
   bool stepping_ = false;
   bool closing_ = false;
   Announcer announcer_;
+  std::optional<ReaderCursor> barReader_;
 };

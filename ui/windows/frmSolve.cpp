@@ -67,8 +67,10 @@ QGroupBox* frmSolve::AddRefreshFrame() {
       AddValueLabel(context_.pace, frame, "lblRefreshRate", AsRefresh(MaximumSolveRefresh));
   connect(hsclRefreshRateValue_, &ScrollBar::valueChanged, this,
           &frmSolve::hsclRefreshRateValue_Change);
-  // The value is told later, after the bar's own name.
-  connect(hsclRefreshRateValue_, &ScrollBar::Asked, this, &frmSolve::TellBar, Qt::QueuedConnection);
+  barReader_.emplace(*hsclRefreshRateValue_);
+  // Told later, after the name of the window.
+  connect(hsclRefreshRateValue_, &ScrollBar::Asked, this, &frmSolve::LeadReaderToBar,
+          Qt::QueuedConnection);
   hsclRefreshRateValue_Change();
   auto* layout = new QVBoxLayout(frame);
   layout->addWidget(hsclRefreshRateValue_);
@@ -95,9 +97,18 @@ void frmSolve::hsclRefreshRateValue_Change() {
   if (hsclRefreshRateValue_->hasFocus()) TellBar();
 }
 
-// A screen reader knows only the number.
+QString frmSolve::SpokenBar() const {
+  return lblRefreshRate_->Text().toLower();
+}
+
 void frmSolve::TellBar() {
-  announcer_.Say(lblRefreshRate_->Text().toLower());
+  announcer_.Say(SpokenBar());
+}
+
+// At the bar itself a screen reader would say its bare number, and each other one.
+void frmSolve::LeadReaderToBar() {
+  barReader_->LeadTo(hsclRefreshRateValue_->rect(),
+                     hsclRefreshRateValue_->accessibleName() + " scroll bar, " + SpokenBar());
 }
 
 void frmSolve::ShowProgress() {

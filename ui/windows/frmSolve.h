@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "solver/TourSolver.h"
 #include "ui/application/Announcer.h"
+#include "ui/application/ReaderCursor.h"
 #include "ui/commands/CommandContext.h"
 #include "ui/widgets/SecondaryWindow.h"
 
@@ -45,7 +47,9 @@ class frmSolve : public SecondaryWindow, public SolveProgress {
 
   void ShowValues(std::int64_t tested);
   void OfferStop(bool stop);
+  QString SpokenBar() const;
   void TellBar();
+  void LeadReaderToBar();
   void Search();
   bool FindTour();
   void EndSearch(bool solved);
@@ -67,4 +71,5 @@ class frmSolve : public SecondaryWindow, public SolveProgress {
   bool working_ = false;      // a search or a backtrack is on the stack
   bool closing_ = false;
   Announcer announcer_;
+  std::optional<ReaderCursor> barReader_;
 };
