@@ -183,6 +183,8 @@ class Game(AccessibilityTest):
         self.reader.waits_to_hear("activate", "^Game Over...$")
 
     def test_a_replay_tells_each_position(self):
+        # Slow enough not to end by itself before its button is pressed.
+        (self.program.parent / "GallopadeNova.ini").write_text("[Replay]\nAdvance Speed=64\n")
         self.start()
         self.play(["B6", "C4"])
         self.choose("View", "Instant Replay...")
