@@ -61,6 +61,15 @@ TEST_F(HostileLooks, AreTriedAgainWhenThePlayerWantsIt) {
   EXPECT_EQ(LightSquare(), QColor(Qt::blue));
 }
 
+TEST_F(HostileLooks, StayInACopyThatRunsWhenAnotherDiesAmongTheirPictures) {
+  PictureFile("blue.png", Qt::blue);
+  Open(Look("blue.png"));
+  Put(Mark, "1");
+  InPreferences([](frmPreferences& window) { Click(window, "cmdOK"); });
+  EXPECT_EQ(LightSquare(), QColor(Qt::blue));
+  EXPECT_TRUE(QFile::exists(ProgramFile(Mark)));
+}
+
 TEST_F(HostileLooks, LeaveNoMarkOnceTheirPicturesAreRead) {
   PictureFile("blue.png", Qt::blue);
   Open(Look("blue.png"));

@@ -62,7 +62,7 @@ void frmGame::Form_Load(const std::string& commandLine) {
           Qt::DirectConnection);
   ShowWindow();
   // While the desktop makes room for the window; nothing of it is painted before.
-  ReadPictures();
+  ReadFirstPictures();
   RestoreColors();
   if (const auto fileName = GameFileOf(commandLine)) {
     OpenGameFile(PathFromBytes(QByteArray::fromStdString(*fileName)));
@@ -222,7 +222,7 @@ void frmGame::Exit() {
 
 void frmGame::LoadGameSetup() {
   ReadSettings();
-  ReadPictures();
+  LoadPictures();
 }
 
 void frmGame::ReadSettings() {
@@ -234,8 +234,9 @@ void frmGame::ReadSettings() {
   board_->SetBackground(settings.ChessboardBackgroundColor, settings.UseImages);
 }
 
-// Pictures that once ended the program would end it at every start.
-void frmGame::ReadPictures() {
+// Pictures that once ended the program would end it at every start. Later they have been read
+// already: a mark that is there then was left by another copy.
+void frmGame::ReadFirstPictures() {
   if (!globals_.settings.UseImages) return;
   const AttemptMark mark(globals_.ProgramDirectory + ReadingMarkName);
   if (mark.WasCutShortBefore()) {

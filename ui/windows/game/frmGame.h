@@ -103,7 +103,7 @@ class frmGame : public QMainWindow, public MainWindow {
  private:
   void SetUp();
   void ReadSettings();
-  void ReadPictures();
+  void ReadFirstPictures();
   void OpenSettingsAndPlaceWindow();
   void CreateBoard();
   void ShowWindow();
