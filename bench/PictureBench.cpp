@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <QBuffer>
 #include <QFile>
 #include <QGuiApplication>
 #include <QTemporaryDir>
@@ -19,6 +20,15 @@ namespace {
 constexpr QSize Largest(MaximumPictureSide, MaximumPictureSide);
 constexpr int FilesOfALook = 6;
 
+QByteArray DeepPng(const QSize& size) {
+  QImage plain(size, QImage::Format_RGBX64);
+  plain.fill(Qt::black);
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  plain.save(&buffer, "PNG");
+  return buffer.data();
+}
+
 struct Kind {
   const char* name;
   std::function<QByteArray()> make;
@@ -30,6 +40,7 @@ const Kind Kinds[] = {
     {"JPEG, 60 MB of comments", [] { return JpegWithComments(1000); }},
     {"PNG, 20 GB of texts", [] { return PngWithTexts(20000); }},
     {"such a PNG in an icon", [] { return IconAround(PngWithTexts(20000)); }},
+    {"PNG of sixteen bits", [] { return DeepPng(Largest); }},
     {"GIF, an empty large screen", [] { return EmptyGif(Largest); }},
     {"GIF that does not end", [] { return EndlessGif(60000); }},
 };

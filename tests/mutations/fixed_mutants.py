@@ -114,6 +114,8 @@ MUTANTS = (
      "pixels <= MaximumPassedPixels", "ui"),
     ("ui/widgets/pictures/PictureReader.cpp", "size.expandedTo(picture.canvas)", "size", "ui"),
     ("ui/widgets/pictures/PictureReader.cpp", "bytes.IsStopped() || IsTooLarge", "IsTooLarge", "ui"),
+    ("ui/widgets/pictures/PictureReader.cpp", " || 2 * file.size() > left.bytes", "", "ui"),
+    ("ui/widgets/pictures/PictureReader.cpp", "image.depth() >= 32", "image.depth() == 32", "ui"),
     ("ui/widgets/pictures/PictureReader.cpp", "  left.bytes -= picture.image.sizeInBytes();\n", "",
      "ui"),
     ("ui/widgets/pictures/PictureReader.cpp", "if (Find(pictures, file, left) == nullptr)",

@@ -1,3 +1,7 @@
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+
 #include "core/Square.h"
 #include "tests/ui/HostilePictures.h"
 #include "tests/ui/PreferencesDesk.h"
@@ -68,6 +72,22 @@ TEST_F(HostileLooks, StayInACopyThatRunsWhenAnotherDiesAmongTheirPictures) {
   InPreferences([](frmPreferences& window) { Click(window, "cmdOK"); });
   EXPECT_EQ(LightSquare(), QColor(Qt::blue));
   EXPECT_TRUE(QFile::exists(ProgramFile(Mark)));
+}
+
+TEST_F(HostileLooks, AreReadOnceForTheBoardAndThePreferences) {
+  // Replaced behind the reader's back, without a trace.
+  QFile file(PictureFile("picture.png", Qt::blue));
+  const QDateTime changed = QFileInfo(file).lastModified();
+  Open(Look("picture.png"));
+  PictureFile("picture.png", Qt::red);
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  ASSERT_TRUE(file.setFileTime(changed, QFileDevice::FileModificationTime));
+  file.close();
+  InPreferences([](frmPreferences& window) {
+    for (const ChooserRow& row : ChooserRows) {
+      EXPECT_EQ(ColorOf(window, row.swatch), QColor(Qt::blue)) << row.part;
+    }
+  });
 }
 
 TEST_F(HostileLooks, LeaveNoMarkOnceTheirPicturesAreRead) {

@@ -113,6 +113,27 @@ TEST_F(HostilePictures, AreChargedForColorsOfSixteenBits) {
   }
 }
 
+TEST_F(HostilePictures, KeepNoColorsOfSixteenBits) {
+  for (const QImage::Format format : {QImage::Format_RGBX64, QImage::Format_RGBA64}) {
+    QImage plain(QSize(8, 8), format);
+    const QColor color(10, 20, 30, plain.hasAlphaChannel() ? 0 : 255);
+    plain.fill(color);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(plain.save(&buffer, "PNG"));
+    const QImage image = Load(buffer.data());
+    EXPECT_EQ(image.depth(), 32);
+    EXPECT_EQ(image.hasAlphaChannel(), plain.hasAlphaChannel());
+    EXPECT_EQ(image.pixelColor(4, 4), plain.hasAlphaChannel() ? QColor(0, 0, 0, 0) : color);
+  }
+}
+
+TEST_F(HostilePictures, AreNotReadFromAFileThatTakesTooMuchByItself) {
+  const QByteArray bytes = JpegWithComments(16);
+  EXPECT_TRUE(Load(bytes, {.bytes = bytes.size(), .processorTime = Plenty}).isNull());
+  EXPECT_FALSE(Load(bytes, {.bytes = 2 * bytes.size(), .processorTime = Plenty}).isNull());
+}
+
 TEST_F(HostilePictures, ShareOneBudgetOfMemory) {
   PictureReader reader = Reader(Patient);
   const QString first = Put("1.gif", EmptyGif(Largest));

@@ -28,6 +28,16 @@ bool MayBeDecoded(const EncodedPicture& picture, const QSize& size, qint64 freeB
          pixels * picture.bytesPerPixel + picture.bytes.size() <= freeBytes;
 }
 
+// Formats of more than 32 bits take twice the room, and those with a plain alpha channel would be
+// copied whenever they are drawn.
+QImage AsItIsDrawn(QImage image) {
+  if (image.depth() >= 32) {
+    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                            : QImage::Format_RGB32);
+  }
+  return image;
+}
+
 QImage Decode(const EncodedPicture& picture, const PictureBudget& left) {
   if (picture.format.isEmpty()) return {};
   MeteredBytes bytes(picture.bytes, std::clock() + left.processorTime);
@@ -35,16 +45,19 @@ QImage Decode(const EncodedPicture& picture, const PictureBudget& left) {
   reader.setAutoDetectImageFormat(false);
   const QSize size = reader.size();
   if (!MayBeDecoded(picture, size.expandedTo(picture.canvas), left.bytes)) return {};
-  const QImage image = reader.read();
-  return bytes.IsStopped() || IsTooLarge(image.size()) ? QImage() : image;
+  QImage image = reader.read();
+  if (bytes.IsStopped() || IsTooLarge(image.size())) return {};
+  return AsItIsDrawn(std::move(image));
 }
 
-// A file that does not say how large it is may never come to an end.
+// A file that does not say how large it is may never come to an end. For a while there are the file
+// and what is taken out of it.
 QImage ReadFrom(const QFileInfo& file, const QByteArray& suffix, const PictureBudget& left) {
   if (file.size() == 0 || file.size() > MaximumPictureBytes) return {};
-  if (left.processorTime <= 0) return {};
-  const FileContent content = ReadFile(file.filePath(), file.size());
-  return Decode(EncodedPictureIn(content.bytes, suffix), left);
+  if (left.processorTime <= 0 || 2 * file.size() > left.bytes) return {};
+  const EncodedPicture picture =
+      EncodedPictureIn(ReadFile(file.filePath(), file.size()).bytes, suffix);
+  return Decode(picture, left);
 }
 
 }  // namespace

@@ -30,8 +30,9 @@ class PictureReader {
 
   // One image for each name; a null image where there is no readable picture of at most
   // MaximumPictureSide pixels a side, or where the budget, which is for all of them, does not reach
-  // for it. A file that is named more than once is read once. One that is as it was at the last
-  // call is not read again, unless it could not be read and there is now more to spend on it.
+  // for it. No image has more than 32 bits a pixel. A file that is named more than once is read
+  // once. One that is as it was at the last call is not read again, unless it could not be read and
+  // there is now more to spend on it.
   std::vector<QImage> Read(const QStringList& names);
 
  private:

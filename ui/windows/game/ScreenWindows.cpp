@@ -124,7 +124,7 @@ ScoresAnswer ScreenWindows::ShowScores(ScoreList list, std::optional<FinishedGam
 }
 
 void ScreenWindows::ShowPreferences() {
-  frmPreferences window(mainWindow_.Context(), &mainWindow_);
+  frmPreferences window(mainWindow_.Context(), mainWindow_.Pictures(), &mainWindow_);
   window.exec();
 }
 

@@ -57,6 +57,8 @@ class frmGame : public QMainWindow, public MainWindow {
   const CommandContext& Context() const { return context_; }
   const GameState& State() const { return state_; }
   BoardView& Board() { return *board_; }
+  // What read the pictures of the board.
+  PictureReader& Pictures() { return pictures_; }
   // Maximised, full-screen or in a tile: then it does not choose its size.
   bool HasGivenShape() const;
 

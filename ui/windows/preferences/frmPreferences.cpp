@@ -46,9 +46,11 @@ int StartingSquare(const GameOptions& options) {
 
 }  // namespace
 
-frmPreferences::frmPreferences(const CommandContext& context, QWidget* mainWindow)
+frmPreferences::frmPreferences(const CommandContext& context, PictureReader& pictures,
+                               QWidget* mainWindow)
     : SecondaryWindow(mainWindow, "frmPreferences", "Preferences"),
       context_(context),
+      pictures_(pictures),
       settings_(context.globals.settings),
       menus_(this) {
   AddControls();
@@ -69,10 +71,12 @@ void frmPreferences::Form_Load() {
   menus_.ShowLook(settings_);
 }
 
+// In the order in which the board has them, they are there already.
 void frmPreferences::LoadAndShowImages(bool show) {
   QStringList names;
-  for (const ChooserRow& row : ChooserRows) names << (show ? settings_.*row.image : QString());
-  const std::vector<QImage> images = PictureReader(context_.globals.ProgramDirectory).Read(names);
+  for (const ChooserRow& row : ChooserRows) names << settings_.*row.image;
+  const std::vector<QImage> images =
+      show ? pictures_.Read(names) : std::vector<QImage>(std::size(ChooserRows));
   for (std::size_t owner = 0; owner < images.size(); ++owner) {
     choosers_[owner].swatch->Image().SetPicture(images[owner]);
     NameSwatch(static_cast<int>(owner));

@@ -8,6 +8,7 @@
 #include "ui/windows/preferences/PreferenceMenus.h"
 
 class ChooserButton;
+class PictureReader;
 class PreviewBoard;
 class QButtonGroup;
 class QCheckBox;
@@ -22,8 +23,8 @@ class frmPreferences : public SecondaryWindow {
   Q_OBJECT
 
  public:
-  // Both outlive the window.
-  frmPreferences(const CommandContext& context, QWidget* mainWindow);
+  // All outlive the window. pictures: has read those of the board.
+  frmPreferences(const CommandContext& context, PictureReader& pictures, QWidget* mainWindow);
 
   // owner: a chooser by its place among ChooserRows.
   void Chooser_Click(int owner);
@@ -64,6 +65,7 @@ class frmPreferences : public SecondaryWindow {
   void NameSwatch(int owner);
 
   const CommandContext& context_;
+  PictureReader& pictures_;
   Settings& settings_;
   std::array<Chooser, ChooserCount> choosers_;
   QCheckBox* chkUseImages_ = nullptr;
