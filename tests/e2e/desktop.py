@@ -233,6 +233,9 @@ class Desktop:
     def type(self, text):
         self.run("xdotool", "type", text)
 
+    def point_at(self, x, y):
+        self.run("xdotool", "mousemove", str(x), str(y))
+
     def click(self, x, y):
         self.run("xdotool", "mousemove", str(x), str(y), "click", "1")
 

@@ -32,6 +32,8 @@ MIDDLE = "400x400+440+200"
 # Of the title bar that Qt draws for a maximised window. The compositor has no panel: it may come
 # after the window, which lies below it then and not beside it.
 MINIMISE_BUTTON = (SCREEN[0] - 58, 12)
+# In the last of them, whatever pointer follows another one is where that is.
+CORNERS = ((0, 0), (SCREEN[0] - 1, SCREEN[1] - 1))
 RESTING_SECONDS = 1.6
 
 
@@ -52,7 +54,7 @@ class WaylandDesktop(Desktop):
         wait_for((Path(self.folder) / "wayland-test").exists, "the compositor")
         self.environment.update(WAYLAND_DISPLAY="wayland-test", QT_QPA_PLATFORM="wayland")
         os.environ.update(self.environment)
-        self.run("xdotool", "mousemove", *map(str, MINIMISE_BUTTON))
+        self.point_at(*MINIMISE_BUTTON)
         wait_for(self.is_bare, "the background")
 
     def is_bare(self):
@@ -104,8 +106,11 @@ class Wayland(unittest.TestCase):
         return self.caption() == before
 
     def minimise(self):
-        """A click that comes too early is lost; one on the bare desktop does nothing."""
+        """A click that comes too early is lost; one on the bare desktop does nothing. The compositor
+        does not know in the beginning where the pointer is, and then follows its movements only."""
         def gone():
+            for corner in CORNERS:
+                DESKTOP.point_at(*corner)
             DESKTOP.click(*MINIMISE_BUTTON)
             return DESKTOP.is_bare()
         READER.wait_for(gone, "the window to be minimised")
