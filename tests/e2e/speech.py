@@ -60,10 +60,14 @@ class Speech:
                              str(self.errors_file)])
         self.waits_to_hear("Screen reader on")
 
+    def _entries(self):
+        """The last line may still be being written."""
+        return self.voice_file.read_text(encoding="utf-8").split("\n")[:-1]
+
     def said(self):
         """What was said since it was last forgotten; what was cut off at once is left out."""
         said = []
-        for line in self.voice_file.read_text(encoding="utf-8").splitlines()[self.forgotten:]:
+        for line in self._entries()[self.forgotten:]:
             entry = json.loads(line)
             if entry["kind"] == "begins":
                 said.append(entry["text"].strip())
@@ -72,7 +76,7 @@ class Speech:
         return said
 
     def forget(self):
-        self.forgotten = len(self.voice_file.read_text(encoding="utf-8").splitlines())
+        self.forgotten = len(self._entries())
 
     def waits_to_hear(self, *patterns):
         """The patterns one after the other in what is said since it was last forgotten."""
