@@ -89,6 +89,7 @@ void HelpPage::Read(PageReading::Unit unit) {
 // A reader that is to read on begins with what it was told, and leaves the text cursor where it
 // ended.
 void HelpPage::Tell(const QString& text, int from) {
+  if (!QAccessible::isActive()) return;
   reader_.LeadTo(cursorRect(), text,
                  std::make_unique<SpokenText>(toPlainText().mid(from), [this, from](int onward) {
                    QTextCursor cursor(document());
