@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include "storage/NumberParser.h"
+#include "ui/application/BarReader.h"
 #include "ui/widgets/DialogFitting.h"
 #include "ui/widgets/NamedControls.h"
 #include "ui/widgets/ScrollBar.h"
@@ -106,10 +107,7 @@ QGroupBox* frmReplay::AddAdvanceFrame() {
   hsclSpeedSeekSet_->setObjectName("hsclSpeedSeekSet");
   hsclSpeedSeekSet_->setRange(1, SquareCount);
   connect(hsclSpeedSeekSet_, &ScrollBar::valueChanged, this, &frmReplay::hsclSpeedSeekSet_Change);
-  barReader_.emplace(*hsclSpeedSeekSet_);
-  // Told later, after the name of the window.
-  connect(hsclSpeedSeekSet_, &ScrollBar::Asked, this, &frmReplay::LeadReaderToBar,
-          Qt::QueuedConnection);
+  LeadReadersTo(*hsclSpeedSeekSet_, [this] { return SpokenBar(); });
   auto* layout = new QGridLayout(frame);
   layout->addWidget(options->parentWidget(), 0, 0, 1, 2);
   layout->addWidget(hsclSpeedSeekSet_, 1, 0, 1, 2);
@@ -195,12 +193,6 @@ QString frmReplay::SpokenBar() const {
 
 void frmReplay::TellBar() {
   announcer_.Say(SpokenBar());
-}
-
-// At the bar itself a screen reader would say its bare number, and each other one.
-void frmReplay::LeadReaderToBar() {
-  barReader_->LeadTo(hsclSpeedSeekSet_->rect(),
-                     hsclSpeedSeekSet_->accessibleName() + " scroll bar, " + SpokenBar());
 }
 
 void frmReplay::TellPosition(bool finished) {

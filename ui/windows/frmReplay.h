@@ -1,9 +1,6 @@
 #pragma once
 
-#include <optional>
-
 #include "ui/application/Announcer.h"
-#include "ui/application/ReaderCursor.h"
 #include "ui/commands/CommandContext.h"
 #include "ui/widgets/SecondaryWindow.h"
 
@@ -79,7 +76,6 @@ class frmReplay : public SecondaryWindow {
   void OfferButtons(bool finished);
   QString SpokenBar() const;
   void TellBar();
-  void LeadReaderToBar();
   void SetBar(int maximum, int value, int largeStep);
   void BeginAutomatic();
   void BeginManual();
@@ -104,5 +100,4 @@ class frmReplay : public SecondaryWindow {
   bool stepping_ = false;
   bool closing_ = false;
   Announcer announcer_;
-  std::optional<ReaderCursor> barReader_;
 };

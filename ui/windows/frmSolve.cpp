@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "core/NumberText.h"
+#include "ui/application/BarReader.h"
 #include "ui/widgets/NamedControls.h"
 #include "ui/widgets/ScrollBar.h"
 #include "ui/widgets/ValueLabel.h"
@@ -67,10 +68,7 @@ QGroupBox* frmSolve::AddRefreshFrame() {
       AddValueLabel(context_.pace, frame, "lblRefreshRate", AsRefresh(MaximumSolveRefresh));
   connect(hsclRefreshRateValue_, &ScrollBar::valueChanged, this,
           &frmSolve::hsclRefreshRateValue_Change);
-  barReader_.emplace(*hsclRefreshRateValue_);
-  // Told later, after the name of the window.
-  connect(hsclRefreshRateValue_, &ScrollBar::Asked, this, &frmSolve::LeadReaderToBar,
-          Qt::QueuedConnection);
+  LeadReadersTo(*hsclRefreshRateValue_, [this] { return SpokenBar(); });
   hsclRefreshRateValue_Change();
   auto* layout = new QVBoxLayout(frame);
   layout->addWidget(hsclRefreshRateValue_);
@@ -103,12 +101,6 @@ QString frmSolve::SpokenBar() const {
 
 void frmSolve::TellBar() {
   announcer_.Say(SpokenBar());
-}
-
-// At the bar itself a screen reader would say its bare number, and each other one.
-void frmSolve::LeadReaderToBar() {
-  barReader_->LeadTo(hsclRefreshRateValue_->rect(),
-                     hsclRefreshRateValue_->accessibleName() + " scroll bar, " + SpokenBar());
 }
 
 void frmSolve::ShowProgress() {

@@ -1,11 +1,9 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 
 #include "solver/TourSolver.h"
 #include "ui/application/Announcer.h"
-#include "ui/application/ReaderCursor.h"
 #include "ui/commands/CommandContext.h"
 #include "ui/widgets/SecondaryWindow.h"
 
@@ -49,7 +47,6 @@ class frmSolve : public SecondaryWindow, public SolveProgress {
   void OfferStop(bool stop);
   QString SpokenBar() const;
   void TellBar();
-  void LeadReaderToBar();
   void Search();
   bool FindTour();
   void EndSearch(bool solved);
@@ -71,5 +68,4 @@ class frmSolve : public SecondaryWindow, public SolveProgress {
   bool working_ = false;      // a search or a backtrack is on the stack
   bool closing_ = false;
   Announcer announcer_;
-  std::optional<ReaderCursor> barReader_;
 };
