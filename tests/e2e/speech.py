@@ -4,6 +4,7 @@ import importlib.util
 import json
 import os
 import re
+import signal
 import sys
 from pathlib import Path
 
@@ -37,6 +38,7 @@ class Speech:
         self.folder = Path(desktop.folder)
         self.voice_file = self.folder / "said"
         self.errors_file = self.folder / "orca errors"
+        self.idle_file = self.folder / "orca idle"
         self.forgotten = 0
         self.voice_file.touch()
         desktop.environment.update(
@@ -56,8 +58,8 @@ class Speech:
                              "-L", str(self.folder), "-P", str(self.folder / "speechd.pid")])
 
     def _start_orca(self):
-        self.desktop._start([sys.executable, str(HERE / "orca_reader.py"),
-                             str(self.errors_file)])
+        self.orca = self.desktop._start([sys.executable, str(HERE / "orca_reader.py"),
+                                         str(self.errors_file), str(self.idle_file)])
         self.waits_to_hear("Screen reader on")
 
     def _entries(self):
@@ -88,7 +90,10 @@ class Speech:
             raise AssertionError(f"{error}; heard {self.said()}") from None
 
     def errors(self):
-        """What Orca could not deal with since this was last asked."""
+        """What Orca could not deal with of all that it was told since this was last asked."""
+        self.orca.send_signal(signal.SIGUSR1)
+        wait_for(self.idle_file.exists, "Orca with nothing to do", PATIENCE_SECONDS)
+        self.idle_file.unlink()
         if not self.errors_file.exists():
             return ""
         errors = self.errors_file.read_text(encoding="utf-8")
