@@ -88,9 +88,7 @@ TEST_F(AttemptMarks, LeaveAnotherNameOfAFileAlone) {
 
 TEST_F(AttemptMarks, LeaveAStrangersFileAlone) {
   Put("mark", "1");
-  if (chown(QFile::encodeName(name).constData(), Nobody, Nobody) != 0) {
-    GTEST_SKIP() << "files cannot be given away here";
-  }
+  if (!GiveAway(name, Nobody, Nobody)) GTEST_SKIP() << "files cannot be given away here";
   EXPECT_FALSE(WasCutShort());
   EXPECT_EQ(ContentOf(name), "1");
 }

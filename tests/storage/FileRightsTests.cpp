@@ -9,8 +9,7 @@
 
 namespace {
 
-constexpr uid_t Stranger = 12345;
-constexpr gid_t Club = 23456;
+constexpr unsigned Club = 23456;
 constexpr const char* AccessList = "system.posix_acl_access";
 constexpr const char* AccessListOfNewFiles = "system.posix_acl_default";
 
@@ -73,9 +72,7 @@ TEST_F(AReplacedFile, IsAnotherFileUnlessItMustBeWrittenOver) {
 
 TEST_F(AReplacedFile, KeepsItsOwnerAndGroup) {
   SetMode(PathOf("x"), 0664);
-  if (chown(Path().constData(), Stranger, Club) != 0) {
-    GTEST_SKIP() << "files cannot be given away here";
-  }
+  if (!GiveAway(PathOf("x"), Stranger, Club)) GTEST_SKIP() << "files cannot be given away here";
   const ino_t before = Status().st_ino;
   Replace();
   EXPECT_EQ(Status().st_uid, Stranger);
@@ -86,9 +83,7 @@ TEST_F(AReplacedFile, KeepsItsOwnerAndGroup) {
 
 // As in a folder that friends share: the file is a friend's, and may be written by all.
 TEST_F(AReplacedFile, OfAFriendIsWrittenOver) {
-  if (chown(Path().constData(), Stranger, Club) != 0) {
-    GTEST_SKIP() << "files cannot be given away here";
-  }
+  if (!GiveAway(PathOf("x"), Stranger, Club)) GTEST_SKIP() << "files cannot be given away here";
   SetMode(PathOf("x"), 0666);
   SetMode(Folder(), 0777);
   const ino_t before = Status().st_ino;
@@ -134,9 +129,7 @@ TEST_F(AReplacedFile, GetsNoAccessListFromItsFolder) {
 
 TEST_F(AReplacedFile, KeepsTheBitThatAnotherOwnerWouldTakeAway) {
   SetMode(PathOf("x"), 04750);
-  if (chown(Path().constData(), Stranger, Club) != 0) {
-    GTEST_SKIP() << "files cannot be given away here";
-  }
+  if (!GiveAway(PathOf("x"), Stranger, Club)) GTEST_SKIP() << "files cannot be given away here";
   SetMode(PathOf("x"), 04750);
   Replace();
   EXPECT_EQ(Mode(), 04750U);
@@ -145,8 +138,7 @@ TEST_F(AReplacedFile, KeepsTheBitThatAnotherOwnerWouldTakeAway) {
 // The system drops the bit without a word when its giver is not of the group. The folder hands its
 // group on, so that nothing else differs.
 TEST_F(AReplacedFile, IsWrittenOverWhereItsGroupBitCannotBeGiven) {
-  if (chown(Path().constData(), Nobody, Club) != 0 ||
-      chown(QFile::encodeName(Folder()).constData(), 0, Club) != 0) {
+  if (!GiveAway(PathOf("x"), Nobody, Club) || !GiveAway(Folder(), 0, Club)) {
     GTEST_SKIP() << "files cannot be given away here";
   }
   SetMode(PathOf("x"), 02664);
@@ -161,7 +153,7 @@ TEST_F(AReplacedFile, KeepsAttributesThatNobodyMayRead) {
   if (!SetAttribute(Path(), "user.note", "mine")) GTEST_SKIP() << "no attributes here";
   SetMode(Folder(), 0777);
   SetMode(PathOf("x"), 0222);
-  if (geteuid() == 0 && chown(Path().constData(), Nobody, Nobody) != 0) {
+  if (geteuid() == 0 && !GiveAway(PathOf("x"), Nobody, Nobody)) {
     GTEST_SKIP() << "files cannot be given away here";
   }
   const Apart outcome = RunApart(BecomeOrdinaryUser, [this] {

@@ -13,7 +13,6 @@
 namespace {
 
 const QString Left = ".gallopade-saving-0123456789abcdef";
-constexpr uid_t Stranger = 12345;
 
 }  // namespace
 
@@ -90,9 +89,8 @@ TEST_F(ASavingFile, IsNotTakenForAPipeOfItsName) {
 
 TEST_F(ASavingFile, OfAStrangerStays) {
   Put(Left, "half");
-  if (chown(Bytes(Left).constData(), Stranger, Stranger) != 0) {
+  if (!GiveAway(PathOf(Left), Stranger, Stranger))
     GTEST_SKIP() << "files cannot be given away here";
-  }
   EXPECT_EQ(WriteFile(PathOf("x"), "new"), std::nullopt);
   EXPECT_EQ(ContentOf(PathOf(Left)), "half");
 }
@@ -102,8 +100,7 @@ TEST_F(ASavingFile, OfAStrangerStays) {
 TEST_F(ASavingFile, OfTheOwnerOfTheReplacedFileIsClearedAway) {
   Put(Left, "half");
   Put("x", "old");
-  if (chown(Bytes(Left).constData(), Stranger, Stranger) != 0 ||
-      chown(Bytes("x").constData(), Stranger, Stranger) != 0) {
+  if (!GiveAway(PathOf(Left), Stranger, Stranger) || !GiveAway(PathOf("x"), Stranger, Stranger)) {
     GTEST_SKIP() << "files cannot be given away here";
   }
   EXPECT_EQ(WriteFile(PathOf("x"), "new"), std::nullopt);

@@ -90,6 +90,10 @@ Apart RunApart(const std::function<bool()>& enter, const std::function<void()>& 
   return WEXITSTATUS(status) == 0 ? Apart::Passed : Apart::Failed;
 }
 
+bool GiveAway(const QString& pathName, unsigned owner, unsigned group) {
+  return chown(QFile::encodeName(pathName).constData(), owner, group) == 0;
+}
+
 bool BecomeOrdinaryUser() {
   if (geteuid() != 0) return true;
   return setgid(Nobody) == 0 && setuid(Nobody) == 0;

@@ -53,8 +53,12 @@ enum class Apart { Passed, Failed, NotAllowed };
 // with it. Expectations in the body are printed; NotAllowed when entering failed.
 Apart RunApart(const std::function<bool()>& enter, const std::function<void()>& body);
 
-// To enter with: an account that permissions bind; root becomes nobody.
+constexpr unsigned Stranger = 12345;
 constexpr unsigned Nobody = 65534;
+// False where this user may not give files away.
+bool GiveAway(const QString& pathName, unsigned owner, unsigned group);
+
+// To enter with: an account that permissions bind; root becomes nobody.
 bool BecomeOrdinaryUser();
 // To enter with: the folder becomes an empty disk of its own with so little room.
 std::function<bool()> MountSmallDisk(const QString& folder, int kilobytes);
