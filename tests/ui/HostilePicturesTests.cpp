@@ -163,6 +163,14 @@ TEST_F(HostilePictures, EndWhenTheTimeForAllOfThemIsOver) {
   }
 }
 
+TEST_F(HostilePictures, AreNotShownInPartWhenTheTimeEndsBeforeThem) {
+  const QByteArray bytes = ProgressiveJpeg(Largest, 3);
+  const std::clock_t begun = std::clock();
+  ASSERT_FALSE(Load(bytes).isNull());
+  const std::clock_t whole = std::clock() - begun;
+  EXPECT_TRUE(Load(bytes, {.processorTime = whole / 16}).isNull());
+}
+
 TEST_F(HostilePictures, AreTriedAgainOnlyWhenThereIsMoreToSpend) {
   // They are put right behind the reader's back, without a trace.
   const QDateTime changed = QDateTime::currentDateTime();
