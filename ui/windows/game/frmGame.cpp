@@ -53,7 +53,10 @@ frmGame::frmGame(Globals& globals, PicturePace::Clock clock)
   setCentralWidget(board_.get());
 }
 
-frmGame::~frmGame() = default;
+// The help goes while signals still wait: its folder must not stay behind when one ends the program.
+frmGame::~frmGame() {
+  help_.reset();
+}
 
 void frmGame::Form_Load(const std::string& commandLine) {
   game_.Form_Load([this] { SetUp(); });
