@@ -100,6 +100,13 @@ TEST_F(AReplacedFile, OfAFriendIsWrittenOverWhereOnlyOwnersMayRemoveFiles) {
   EXPECT_EQ(RunApart(BecomeOrdinaryUser, [this] { Replace(); }), Apart::Passed);
 }
 
+// As in a container that has been given one file of its computer.
+TEST_F(AReplacedFile, ThatIsMountedIsWrittenOver) {
+  const Apart outcome = RunApart(MountOnItself(PathOf("x")), [this] { Replace(); });
+  if (outcome == Apart::NotAllowed) GTEST_SKIP() << "mounting is not allowed here";
+  EXPECT_EQ(outcome, Apart::Passed);
+}
+
 TEST_F(AReplacedFile, KeepsItsAttributes) {
   if (!SetAttribute(Path(), "user.note", "mine")) GTEST_SKIP() << "no attributes here";
   const ino_t before = Status().st_ino;

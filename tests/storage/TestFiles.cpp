@@ -115,7 +115,7 @@ std::string ToItself(unsigned account) {
 
 // Mounts that no other process sees. An account without the right to mount gets it in a user
 // namespace; without maps nothing there belongs to anybody, and no file can be opened.
-bool TakeMountsApart() {
+bool LeaveForOwnMounts() {
   if (geteuid() == 0) return unshare(CLONE_NEWNS) == 0;
   const unsigned user = geteuid();
   const unsigned group = getegid();
@@ -124,13 +124,24 @@ bool TakeMountsApart() {
          Write("/proc/self/gid_map", ToItself(group));
 }
 
+bool TakeMountsApart() {
+  return LeaveForOwnMounts() && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+}
+
 }  // namespace
 
 std::function<bool()> MountSmallDisk(const QString& folder, int kilobytes) {
   return [folder, kilobytes] {
     const std::string size = "size=" + std::to_string(kilobytes) + "k";
-    return TakeMountsApart() && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+    return TakeMountsApart() &&
            mount("small", QFile::encodeName(folder).constData(), "tmpfs", 0, size.c_str()) == 0;
+  };
+}
+
+std::function<bool()> MountOnItself(const QString& file) {
+  return [path = QFile::encodeName(file)] {
+    return TakeMountsApart() &&
+           mount(path.constData(), path.constData(), nullptr, MS_BIND, nullptr) == 0;
   };
 }
 

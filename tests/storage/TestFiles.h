@@ -62,6 +62,8 @@ bool GiveAway(const QString& pathName, unsigned owner, unsigned group);
 bool BecomeOrdinaryUser();
 // To enter with: the folder becomes an empty disk of its own with so little room.
 std::function<bool()> MountSmallDisk(const QString& folder, int kilobytes);
+// To enter with: no other file can take the name of this one.
+std::function<bool()> MountOnItself(const QString& file);
 
 // The number in an environment variable, for tests that can be run longer than usual.
 int CountFrom(const char* variable, int usual);
