@@ -176,7 +176,8 @@ class Desktop:
 
     def start_program(self, program, *arguments):
         """Arguments are paths, texts or the bytes of a name."""
-        return self._start([program, *arguments], cwd=self.folder)
+        # What is started in the background of a script would not be told of Ctrl+C.
+        return self._start(["env", "--default-signal", program, *arguments], cwd=self.folder)
 
     def window(self, title):
         """The number of the visible window whose title matches the regular expression."""
