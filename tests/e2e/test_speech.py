@@ -128,7 +128,7 @@ class Board(SpeechTest):
     def test_many_steps_are_told_in_one_sentence(self):
         self.start_with(TOUR[:38])
         self.says("alt+e", "Edit menu", "Undo")
-        self.says("c", "Command History", r"List with \d+ items")
+        self.says("c", "Command History", r"List with \d+ items", "No Change")
         self.says("Home", r"Undo\sC7")
         self.says("alt+d", "Gallopade Nova.*frame", "A8, 1 visited, reaches B6, C7")
         self.assertEqual(self.squares_told(), ["A8"])
@@ -218,15 +218,18 @@ class Windows(SpeechTest):
         self.says("Up", "Preferences")
         self.says("Up", "Chessboard", "menu")
         self.says("Right", "Chessboard menu", "Open")
+        self.assertNotIn("menu.", self.speech.said())
+        self.says("Escape", "Chessboard")
 
     def test_the_moves_are_read_in_their_list(self):
         self.start_with(TOUR[:5])
         self.says("alt+v", "View menu", "Instant Replay")
-        self.says("m", "Move History dialog", "List with 5 items")
+        self.says("m", "Move History dialog", "List with 5 items", r"1\.\sA8")
         self.says("Down", "C7")
         self.says("Tab", "Options push button", "has a menu")
         self.says("space", "Options menu")
         self.says("Down", "Copy Moves to Clipboard")
+        self.says("Return", "Options push button", "moves copied")
 
     def test_the_preferences_tell_what_they_show(self):
         self.start()
@@ -245,6 +248,15 @@ class Windows(SpeechTest):
                       "Highlight Image", "Highlight image, ", "Valid Moves Only"):
             self.says("Tab", heard)
         self.assertEqual(" ".join(self.speech.said()).count("Highlight"), 0)
+
+    def test_the_little_board_says_where_it_ends(self):
+        self.start()
+        self.says("alt+e", "Edit menu", "Chessboard", "menu")
+        self.says("p", "Preferences dialog", "OK push button")
+        self.says("alt+a", "Above Position", "selected radio button")
+        self.says("shift+Tab", "A8", "selected radio button")
+        self.says("Left", "A8, edge of the board")
+        self.says("Right", "B8", "selected radio button")
 
     def test_the_swatch_of_a_colour_says_the_colour(self):
         (self.program.parent / "GallopadeNova.ini").write_text("[Chessboard]\nUse Images=0\n")
@@ -266,6 +278,8 @@ class Help(SpeechTest):
         self.says("Down", "There is a chess knight")
         self.says("Tab", "How to Play, link")
         self.says("Return", "How to Play")
+        self.says("alt+Left", "Welcome to Gallopade Nova, If you have two minutes")
+        self.says("alt+Right", "How to Play")
         self.says("Down", "Visit all 64 squares")
         self.says("Escape", "Gallopade Nova.*frame", "A8, knight")
 

@@ -9,7 +9,7 @@ Announcer::Announcer(int pause) : messages_(QAccessible::StatusBar) {
 }
 
 void Announcer::Say(const QString& sentence) {
-  pending_.clear();
+  Forget();
   Send(sentence);
 }
 

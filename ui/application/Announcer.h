@@ -19,6 +19,8 @@ class Announcer {
   void Say(const QString& sentence);
   // As soon as the pause since the last progress is over; of several only the last.
   void SayProgress(const QString& sentence);
+  // Progress that is yet to be told is out of date.
+  void Forget() { pending_.clear(); }
   // From now on, that the menu opens, by its accessible name.
   void SayOpeningOf(QMenu& menu);
   // The pause begins now.

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAccessibleWidget>
+#include <QListView>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -59,10 +60,18 @@ bool LeadsAstray(const QAccessibleEvent& event, const QWidget& widget) {
   }
 }
 
+// Who comes to a list comes to its current row; Qt tells of the row only when it changes.
+void LeadToCurrentRow(QAccessibleEvent& event) {
+  const auto* list = qobject_cast<QListView*>(event.object());
+  const bool isOfWhole = event.type() == QAccessible::Focus && event.child() < 0;
+  if (list != nullptr && isOfWhole) event.setChild(list->currentIndex().row());
+}
+
 void PassOn(QAccessibleEvent& event) {
   const auto* widget = qobject_cast<QWidget*>(event.object());
   auto* button = qobject_cast<QAbstractButton*>(event.object());
   if (widget != nullptr && LeadsAstray(event, *widget)) return;
+  LeadToCurrentRow(event);
   const bool isCaption = event.type() == QAccessible::NameChanged && button != nullptr;
   if (isCaption && button->hasFocus()) return SendAsAnother(*button);
   Send(event);

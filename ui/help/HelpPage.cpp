@@ -69,6 +69,31 @@ void HelpPage::PutCursorInSight() {
   if (QAccessible::isActive()) setTextCursor(cursorForPosition({PageMargin, PageMargin / 2}));
 }
 
+void HelpPage::backward() {
+  {
+    const ReaderEvents::Silence silence;
+    QTextBrowser::backward();
+  }
+  ReadReturnedPage();
+}
+
+void HelpPage::forward() {
+  {
+    const ReaderEvents::Silence silence;
+    QTextBrowser::forward();
+  }
+  ReadReturnedPage();
+}
+
+// The text cursor is where it was on that page, which may be far from its title.
+void HelpPage::ReadReturnedPage() {
+  if (!hasFocus()) return;
+  const QTextCursor line = PageReading::At(textCursor(), PageReading::Unit::Line);
+  const QString text = PageReading::Spoken(line.selectedText());
+  const bool isTitle = text == documentTitle();
+  Tell(isTitle ? text : documentTitle() + ", " + text, line.selectionStart());
+}
+
 // A screen reader would tell of the selection instead of the line that the player goes to next.
 void HelpPage::Find(const QString& word) {
   const ReaderEvents::Silence silence;

@@ -22,6 +22,8 @@ class HelpPage : public QTextBrowser {
   void Find(const QString& word);
   // Has the line of the text cursor read.
   void LeadReader();
+  void backward() override;
+  void forward() override;
 
  signals:
   // The player chose a link that leads out of the book; nothing was opened.
@@ -40,6 +42,7 @@ class HelpPage : public QTextBrowser {
   void MakeLinksLegible();
   void PutCursorInSight();
   void Read(PageReading::Unit unit);
+  void ReadReturnedPage();
   void Tell(const QString& text, int from);
   bool GoToLink(bool next);
 

@@ -134,9 +134,9 @@ void frmHelp::BuildToolBar() {
     return entry;
   };
   QAction* back = add("helpBack", "Back", HelpIcon::Back, QKeySequence("Alt+Left"),
-                      [this] { page_->backward(); });
+                      [this] { ReturnBy(&HelpPage::backward); });
   QAction* forward = add("helpForward", "Forward", HelpIcon::Forward, QKeySequence("Alt+Right"),
-                         [this] { page_->forward(); });
+                         [this] { ReturnBy(&HelpPage::forward); });
   add("helpHome", "Home", HelpIcon::Home, QKeySequence("Alt+Home"),
       [this] { OpenPage(QUrl(FirstPage)); });
   bar->addSeparator();
@@ -183,6 +183,11 @@ void frmHelp::OpenPageAt(const QUrl& page, const QStringList& words) {
 
 void frmHelp::GoToPage(const QUrl& page) {
   OpenPage(page);
+  LeadReaderToPage();
+}
+
+void frmHelp::ReturnBy(void (HelpPage::*step)()) {
+  (page_->*step)();
   LeadReaderToPage();
 }
 

@@ -47,6 +47,7 @@ class frmHelp : public QMainWindow {
   void OpenPage(const QUrl& page);
   void OpenPageAt(const QUrl& page, const QStringList& words);
   void GoToPage(const QUrl& page);
+  void ReturnBy(void (HelpPage::*step)());
   void LeadReaderToPage();
   void SelectInContents(const QUrl& page);
   void RaiseWindow();

@@ -308,6 +308,7 @@ void frmReplay::cmdClose_Click() {
 
 void frmReplay::done(int) {
   tmrAdvance_->stop();
+  announcer_.Forget();
   if (std::exchange(closing_, true)) return;
   goal_ = {.position = ReplayPosition()};
   if (!stepping_) Leave();

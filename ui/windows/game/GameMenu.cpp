@@ -106,13 +106,22 @@ class MenuBuilder {
     }
   }
 
-  // A screen reader does not find out by itself that the entry leads to a menu. Later, after the
-  // entry.
+  // A screen reader does not find out by itself that the entry leads to a menu, nor that the player
+  // has come back from there. Later, after the entry.
   QMenu* AddSubmenu(QMenu* menu, const MenuRow& row) {
     QMenu* submenu = menu->addMenu(row.caption);
-    QObject::connect(
-        submenu->menuAction(), &QAction::hovered, &window_,
-        [&announcer = announcer_] { announcer.Say("menu"); }, Qt::QueuedConnection);
+    const auto tellKind = [&announcer = announcer_, submenu] {
+      if (!submenu->isVisible()) announcer.Say("menu");
+    };
+    const auto tellEntry = [menu, submenu] {
+      if (menu->activeAction() != submenu->menuAction()) return;
+      QAccessibleEvent event(menu, QAccessible::Focus);
+      event.setChild(static_cast<int>(menu->actions().indexOf(submenu->menuAction())));
+      QAccessible::updateAccessibility(&event);
+    };
+    QObject::connect(submenu->menuAction(), &QAction::hovered, &window_, tellKind,
+                     Qt::QueuedConnection);
+    QObject::connect(submenu, &QMenu::aboutToHide, &window_, tellEntry, Qt::QueuedConnection);
     return submenu;
   }
 

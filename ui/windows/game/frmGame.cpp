@@ -53,7 +53,8 @@ frmGame::frmGame(Globals& globals, PicturePace::Clock clock)
   setCentralWidget(board_.get());
 }
 
-// The help goes while signals still wait: its folder must not stay behind when one ends the program.
+// The help goes while signals still wait: its folder must not stay behind when one ends the
+// program.
 frmGame::~frmGame() {
   help_.reset();
 }

@@ -157,6 +157,7 @@ void frmHistory::cmdClose_Click() {
 
 void frmHistory::mnuEditCopy_Click() {
   QGuiApplication::clipboard()->setText(ClipboardText(Lines()));
+  announcer_.Say("moves copied");
 }
 
 void frmHistory::mnuEditExport_Click() {

@@ -6,6 +6,7 @@
 
 #include "core/Keyboard.h"
 #include "ui/board/BoardKeys.h"
+#include "ui/board/BoardWords.h"
 #include "ui/board/SystemColors.h"
 
 namespace {
@@ -139,10 +140,15 @@ void PreviewBoard::pctGrid_Click(int index) {
 void PreviewBoard::pctGrid_KeyUp(int keyCode) {
   const Square to = Target({selectedX_, selectedY_}, keyCode);
   const bool stays = to.x == selectedX_ && to.y == selectedY_;
-  if (stays || !IsSquare(to.x, to.y)) return;
+  if (stays || !IsSquare(to.x, to.y)) return TellEdge();
   const int index = SquareIndex(to.x, to.y);
   pctGrid_Click(index);
   pctGrid_[static_cast<std::size_t>(index)]->setFocus();
+}
+
+void PreviewBoard::TellEdge() {
+  const Sentence edge = EdgeSentence(SquareIndex(selectedX_, selectedY_));
+  announcer_.Say(QString::fromStdString(edge.text));
 }
 
 void PreviewBoard::paintEvent(QPaintEvent*) {

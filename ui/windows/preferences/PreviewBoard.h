@@ -6,6 +6,7 @@
 
 #include "core/Square.h"
 #include "storage/BoardLook.h"
+#include "ui/application/Announcer.h"
 
 // One square of the preview board: a choice among the 64.
 class PreviewCell : public QRadioButton {
@@ -56,8 +57,10 @@ class PreviewBoard : public QWidget {
  private:
   void pctGrid_Click(int index);
   void pctGrid_KeyUp(int keyCode);
+  void TellEdge();
 
   std::array<PreviewCell*, SquareCount> pctGrid_{};
   int selectedX_ = 0;
   int selectedY_ = 0;
+  Announcer announcer_;
 };
