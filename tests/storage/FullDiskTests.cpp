@@ -1,3 +1,7 @@
+#include <unistd.h>
+
+#include <QFile>
+
 #include "storage/ChessboardFile.h"
 #include "storage/FileWriter.h"
 #include "storage/GameFile.h"
@@ -47,6 +51,17 @@ TEST_F(OnAFullDisk, ASmallFileStaysAsItWas) {
 
 TEST_F(OnAFullDisk, ALargeFileStaysAsItWas) {
   Run([this] {
+    EXPECT_EQ(WriteFile(PathOf("x"), QByteArray(1000000, 'n')), ProgramError::DiskFull);
+    EXPECT_EQ(ContentOf(PathOf("x")), "old");
+  });
+}
+
+TEST_F(OnAFullDisk, AFileInAFolderThatTakesNoOtherStaysAsItWas) {
+  if (geteuid() != 0) GTEST_SKIP() << "files cannot be given away here";
+  Run([this] {
+    EXPECT_TRUE(GiveAway(PathOf("x"), Nobody, Nobody));
+    EXPECT_TRUE(QFile::setPermissions(Folder(), QFile::ReadOther | QFile::ExeOther));
+    EXPECT_TRUE(BecomeOrdinaryUser());
     EXPECT_EQ(WriteFile(PathOf("x"), QByteArray(1000000, 'n')), ProgramError::DiskFull);
     EXPECT_EQ(ContentOf(PathOf("x")), "old");
   });
