@@ -98,6 +98,13 @@ class Board(SpeechTest):
         self.click(square.x + square.width // 2, square.y + square.height // 2)
         self.hears("C4, 3 visited")
 
+    def test_the_board_is_looked_over_row_by_row(self):
+        self.start_with(TOUR[:5])
+        self.says("KP_Up", "File Edit View Help")
+        self.says("KP_Prior", "A8, visited B8, free C8, free D8, free E8, knight F8, free")
+        self.says("KP_Prior", "F7, free G7, can be reached")
+        self.says("Left", "D8, free")
+
     def test_a_new_game_is_told_without_the_board(self):
         self.start_with(TOUR[:5])
         self.says("F2", "New Game", "Do you want to start a new game", "Yes push button")
@@ -305,6 +312,7 @@ class Help(SpeechTest):
         self.says("Down", "[a-z]")
         self.says("alt+i", "Look for")
         self.types("undo")
+        self.hears(r"\bUndo\b")
         self.says("Return", "Undo")
 
 

@@ -4,13 +4,15 @@
 #include <utility>
 
 #include <QAccessibleTextInterface>
+#include <QRect>
 
 // A text that a screen reader can read on by itself, from its beginning.
 class SpokenText : public QAccessibleTextInterface {
  public:
-  // goTo: takes the player to a place of the text, where the reader has been stopped.
-  SpokenText(const QString& text, std::function<void(int)> goTo)
-      : text_(text), goTo_(std::move(goTo)) {}
+  // goTo: takes the player to a place of the text, where the reader has been stopped. rect: where
+  // the text lies on the screen.
+  SpokenText(const QString& text, std::function<void(int)> goTo, const QRect& rect = {})
+      : text_(text), goTo_(std::move(goTo)), rect_(rect) {}
 
   QString text(int start, int end) const override { return text_.mid(start, end - start); }
   int characterCount() const override { return static_cast<int>(text_.size()); }
@@ -23,7 +25,7 @@ class SpokenText : public QAccessibleTextInterface {
   void removeSelection(int) override {}
   void setSelection(int, int, int) override {}
 
-  QRect characterRect(int) const override { return {}; }
+  QRect characterRect(int) const override { return rect_; }
   int offsetAtPoint(const QPoint&) const override { return -1; }
   void scrollToSubstring(int, int) override {}
   QString attributes(int, int* start, int* end) const override {
@@ -35,4 +37,5 @@ class SpokenText : public QAccessibleTextInterface {
  private:
   QString text_;
   std::function<void(int)> goTo_;
+  QRect rect_;
 };

@@ -74,6 +74,10 @@ void* AccessibleSquare::interface_cast(QAccessible::InterfaceType type) {
     return static_cast<QAccessibleTableCellInterface*>(this);
   }
   if (type == QAccessible::ActionInterface) return static_cast<QAccessibleActionInterface*>(this);
+  if (type == QAccessible::TextInterface) {
+    return &words_.emplace(
+        text(QAccessible::Name) + ", " + text(QAccessible::Description), [](int) {}, rect());
+  }
   return nullptr;
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <array>
+#include <optional>
 
 #include <QAccessibleWidget>
 
 #include "core/Square.h"
 #include "ui/application/AccessibleLeaf.h"
+#include "ui/application/SpokenText.h"
 
 class BoardView;
 
@@ -54,7 +56,7 @@ class AccessibleBoard : public QAccessibleWidget, public QAccessibleTableInterfa
   mutable std::array<QAccessible::Id, SquareCount> squares_{};  // 0: not asked for yet
 };
 
-// One square of it.
+// One square of it. Readers that go over the screen line by line find what it is as its text.
 class AccessibleSquare : public AccessibleLeaf,
                          public QAccessibleTableCellInterface,
                          public QAccessibleActionInterface {
@@ -86,4 +88,5 @@ class AccessibleSquare : public AccessibleLeaf,
  private:
   BoardView& view_;
   int index_;
+  std::optional<SpokenText> words_;  // since they were last asked for
 };

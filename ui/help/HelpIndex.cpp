@@ -41,6 +41,13 @@ HelpIndex::HelpIndex(QAbstractItemModel& keywords, QWidget* parent)
 void HelpIndex::Narrow(const QString& text) {
   shown_->setFilterFixedString(text.trimmed());
   list_->setCurrentIndex(shown_->index(0, 0));
+  if (!text.isEmpty()) announcer_.Say(SpokenResult());
+}
+
+// What the Enter key opens.
+QString HelpIndex::SpokenResult() const {
+  const QModelIndex first = list_->currentIndex();
+  return first.isValid() ? first.data().toString() : "no keyword";
 }
 
 void HelpIndex::ChooseCurrent() {

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "ui/application/Announcer.h"
+
 class QAbstractItemModel;
 class QListView;
 class QSortFilterProxyModel;
@@ -20,7 +22,9 @@ class HelpIndex : public QWidget {
  private:
   void Narrow(const QString& text);
   void ChooseCurrent();
+  QString SpokenResult() const;
 
   QSortFilterProxyModel* shown_;
   QListView* list_;
+  Announcer announcer_;
 };

@@ -152,7 +152,11 @@ void frmScores::SendScore(std::int16_t TotalMoves, std::int32_t TotalTime, bool 
   const FinishedGame game{TotalMoves, TotalTime};
   const int place = InsertionPlace(list_, rows_, game);
   inserted_.reset();
-  if (place < ScoreRowCount) Insert(game, place);
+  if (place < ScoreRowCount) {
+    Insert(game, place);
+  } else {
+    cmdClose_->setAccessibleDescription("your game is not among the best");
+  }
 }
 
 void frmScores::Insert(const FinishedGame& game, int place) {
