@@ -149,6 +149,9 @@ class Board(SpeechTest):
         game = self.game_of(NEARLY_STUCK)
         self.start()
         self.says("ctrl+o", "Open", "text")
+        self.says("Tab", "Games.* combo box")
+        self.says("Down", "All Files.* combo box")
+        self.says("shift+Tab", "File name: text")
         self.types(str(game))
         self.says("Return", "Gallopade Nova.*frame",
                   "Chessboard, C2, knight, 7 visited, reaches A1, A3, B4, E1, E3")
@@ -178,7 +181,8 @@ class Windows(SpeechTest):
         for key, square in (("Left", "B2"), ("Left", "A2"), ("Down", "A1")):
             self.says(key, square)
         self.says("Return", "Game Over", "Submit to Scores")
-        self.says("Return", "Low Scores dialog", "Rank 2, your name text")
+        self.says("Return", "Low Scores dialog", "Rank 2, your name text",
+                  "Enter Your Name selected")
         self.types("Ann")
         self.says("Return", "Close push button", r"2, Ann, 8 moves, 0:00:\d\d\.\d")
         self.says("Tab", r"1, Bob, 5 moves, 0:00:03\.5")
@@ -303,6 +307,9 @@ class Help(SpeechTest):
         self.says("ctrl+f", "Search for words")
         self.types("knight")
         self.hears("pages, Playing without a mouse or a screen")
+        self.says("shift+Tab", "Search page tab list")
+        self.says("Tab", "Search for words", "knight selected")
+        self.assertEqual(" ".join(self.speech.said()).count("knight"), 1)
         self.says("Return", "where the knight stands")
         self.says("Down", "such as")
 

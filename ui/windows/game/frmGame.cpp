@@ -15,6 +15,7 @@
 #include "storage/OwnFiles.h"
 #include "storage/PathName.h"
 #include "ui/application/AccessibleDialog.h"
+#include "ui/application/AccessibleLineEdit.h"
 #include "ui/application/DoEvents.h"
 #include "ui/application/ReaderEvents.h"
 #include "ui/board/BoardView.h"
@@ -47,6 +48,7 @@ frmGame::frmGame(Globals& globals, PicturePace::Clock clock)
       helpKey_([this](const QString& topic) { GetHelp(topic); }),
       guard_([this](WorkGuard::Change change) { WorkChanged(change); }) {
   AccessibleDialog::Install();
+  AccessibleLineEdit::Install();
   ReaderEvents::Install();
   QPixmapCache::setCacheLimit(PixmapCacheKilobytes);
   setObjectName("frmGame");
