@@ -148,7 +148,7 @@ class Board(SpeechTest):
     def test_a_file_is_opened_by_its_whole_path(self):
         game = self.game_of(NEARLY_STUCK)
         self.start()
-        self.says("ctrl+o", "Open", "text")
+        self.says("ctrl+o", r"Open dialog\. File name: text")
         self.says("Tab", "Games.* combo box")
         self.says("Down", "All Files.* combo box")
         self.says("shift+Tab", "File name: text")

@@ -111,6 +111,18 @@ TEST_F(TypedNames, AreRefusedWhereThereIsNoSuchFolder) {
   EXPECT_EQ(ToSave(), "a");
 }
 
+TEST_F(TypedNames, AreReplacedByTheNextOnceTheyAreRefused) {
+  WhenNextModalOpens([](QWidget& modal) {
+    auto& edit = Child<QLineEdit>(modal, "fileNameEdit");
+    edit.setText("none");
+    QTest::keyClick(&edit, Qt::Key_Return);
+    EXPECT_EQ(edit.selectedText(), "none");
+    modal.close();
+  });
+  Answer("Open", "none" + NotFound, QMessageBox::Ok);
+  EXPECT_EQ(ToOpen(), "");
+}
+
 TEST_F(TypedNames, LeadIntoFolders) {
   ASSERT_TRUE(QDir(globals.ProgramDirectory).mkpath("\"sub\"/folder"));
   Type({"\"sub\"", "folder", "a"});
@@ -168,8 +180,7 @@ TEST_F(FileDialogsTests, ShowSizeAndDateWhole) {
 TEST_F(FileDialogsTests, TellAFilesKindByItsNameWithoutLookingIntoIt) {
   const QMimeDatabase kinds;
   EXPECT_EQ(FileIcons().type(PdfNamed("notes.txt")), kinds.mimeTypeForName("text/plain").comment());
-  EXPECT_EQ(FileIcons().type(PdfNamed("notes")),
-            kinds.mimeTypeForName("application/octet-stream").comment());
+  EXPECT_EQ(FileIcons().type(PdfNamed("notes")), "File");
 }
 
 TEST_F(FileDialogsTests, TellFoldersFromFiles) {

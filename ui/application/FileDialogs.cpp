@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QMimeDatabase>
@@ -53,6 +54,7 @@ class FileDialog : public QFileDialog {
   bool MayOverwrite(const QFileInfo& file);
   void Refuse(const QString& name, const QString& why);
   void ShowWholeColumns();
+  void NameTypeLabel();
 
   FileIcons icons_;
   QString chosen_;
@@ -85,6 +87,8 @@ void FileDialog::accept() {
   } else if (MayTake(file)) {
     chosen_ = file.absoluteFilePath();
     QDialog::accept();
+  } else {
+    name->selectAll();  // the next name takes its place
   }
 }
 
@@ -113,6 +117,7 @@ void FileDialog::Refuse(const QString& name, const QString& why) {
 
 void FileDialog::showEvent(QShowEvent* event) {
   ShowWholeColumns();
+  NameTypeLabel();
   QFileDialog::showEvent(event);
 }
 
@@ -132,6 +137,13 @@ void FileDialog::ShowWholeColumns() {
   const int missing = header.length() + ColumnMargin - files->width();
   const QSize room = screen()->availableSize();
   if (missing > 0) resize(QSize(width() + missing, height()).boundedTo(room));
+}
+
+// It belongs to nothing, since of a box that has a label Orca says the label alone. But of three
+// words that belong to nothing it takes the text for the dialog's message.
+void FileDialog::NameTypeLabel() {
+  auto* label = findChild<QLabel*>("fileTypeLabel");
+  if (label != nullptr) label->setAccessibleName("File type");
 }
 
 }  // namespace
@@ -166,5 +178,6 @@ QIcon FileIcons::icon(const QFileInfo& file) const {
 
 QString FileIcons::type(const QFileInfo& file) const {
   if (!file.isFile()) return QFileIconProvider::type(file);
-  return QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension).comment();
+  const QMimeType type = QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension);
+  return type.isDefault() ? "File" : type.comment();  // Qt's word is "unknown"
 }
