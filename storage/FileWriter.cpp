@@ -21,8 +21,8 @@ bool IsRefusedByFolder() {
   return errno == EACCES || errno == EPERM || errno == EROFS || errno == EBUSY;
 }
 
-// On a disk whose locks hold on one computer only, another one may take the saving file for left
-// and remove it.
+// Another copy of the program may take a saving file that has no lock yet for left and remove it;
+// another computer any, on a disk whose locks hold on one computer only.
 constexpr int MostSavingFiles = 5;
 
 enum class Replaced { Yes, No, NotInThisWay, FileIsGone };

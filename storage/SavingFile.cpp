@@ -8,6 +8,7 @@
 #include <memory>
 #include <sys/file.h>
 #include <sys/random.h>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -16,18 +17,6 @@ constexpr QByteArrayView Prefix = ".gallopade-saving-";
 constexpr int DigitsOfName = 16;
 // Of the names that are tried, none is in use unless someone can foresee them after all.
 constexpr int LongestSearch = 16;
-
-bool HasName(int file) {
-  struct stat status {};
-  return Persist([&] { return fstat(file, &status); }) == 0 && status.st_nlink > 0;
-}
-
-// Who finds a saving file without its lock takes it for left. So it counts only when it is locked
-// and still has its name; on disks that know no locks, nobody removes it.
-bool IsKept(int file) {
-  const bool isLocked = Persist([file] { return flock(file, LOCK_EX | LOCK_NB); }) == 0;
-  return isLocked ? HasName(file) : errno != EWOULDBLOCK;
-}
 
 QByteArray ChanceName() {
   std::uint64_t number = 0;
@@ -71,17 +60,17 @@ std::vector<QByteArray> OurNames(const OpenFolder& folder) {
 }  // namespace
 
 SavingFile::SavingFile(const OpenFolder& folder, mode_t mode) : folder_(folder), descriptor_(-1) {
-  for (int search = 0; search < LongestSearch; ++search) {
+  for (int search = 0; search < LongestSearch && !IsOpen(); ++search) {
     name_ = ChanceName();
     if (name_.isEmpty()) return;
     descriptor_ = Descriptor(Persist([&] {
       return openat(folder.Number(), name_.constData(),
                     O_CREAT | O_EXCL | O_WRONLY | O_NOFOLLOW | O_CLOEXEC, mode);
     }));
-    if (IsOpen() ? IsKept(Number()) : errno != EEXIST) return;
+    if (!IsOpen() && errno != EEXIST) return;
   }
-  descriptor_ = Descriptor(-1);
-  errno = EBUSY;
+  // Unlocked up to now, it may be removed as one that was left; the save then begins with another.
+  if (IsOpen()) std::ignore = Persist([this] { return flock(Number(), LOCK_EX | LOCK_NB); });
 }
 
 SavingFile::~SavingFile() {
