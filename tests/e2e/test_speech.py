@@ -277,6 +277,22 @@ class Windows(SpeechTest):
         self.says("Tab", "Cancel push button")
         self.says("Tab", "Light Color", "has a menu")
         self.says("Tab", r"Light color, \w+")
+        self.says("alt+l", "Select Color dialog", "Basic colors, red 0, green 0, blue 0")
+        self.says("Left", "red 0, green 0, blue 0")
+        self.says("Down", "red 0, green 0, blue 127")
+        self.says("space", "red 0, green 0, blue 127, selected")
+        self.says("Return", "Preferences dialog", "Light color, red 0, green 0, blue 127")
+        self.assertEqual(self.colors_told(), 1)
+        self.says("shift+Tab", "Light Color")
+        self.says("space", "Select Color dialog", "blue 127, selected")
+        self.says("Down", "red 0, green 0, blue 255")
+        self.says("space", "blue 255, selected")
+        self.says("Return", "Preferences dialog", "Light Color.* push button",
+                  "Light color, red 0, green 0, blue 255")
+        self.assertEqual(self.colors_told(), 1)
+
+    def colors_told(self):
+        return " ".join(self.speech.said()).count("Light color, ")
 
 
 class Help(SpeechTest):

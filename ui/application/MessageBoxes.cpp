@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QScreen>
 
+#include "ui/application/ColorWells.h"
 #include "ui/widgets/LongText.h"
 #include "ui/widgets/WindowPlacing.h"
 
@@ -51,6 +52,7 @@ void TellMessage(QWidget& mainWindow, const QString& title, const QString& text,
 std::optional<QColor> ChooseColor(QWidget& mainWindow, const QColor& initial) {
   QWidget* parent = DialogParent(mainWindow);
   QColorDialog dialog(initial, parent);
+  ColorWells::LeadReaders(dialog);
   PlaceDialog(dialog, *parent);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return dialog.selectedColor();

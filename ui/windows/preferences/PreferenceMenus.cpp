@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPixmap>
 
+#include "ui/application/ColorWells.h"
 #include "ui/board/SystemColors.h"
 
 namespace {
@@ -84,8 +85,7 @@ QString ColorWords(Color color) {
   for (int index = 0; index < SystemColorCount; ++index) {
     if (color == SystemColor(index)) return SystemColorNames[index];
   }
-  const QColor shown = ResolveColor(color, QPalette());
-  return QString("red %1, green %2, blue %3").arg(shown.red()).arg(shown.green()).arg(shown.blue());
+  return SpokenColor(ResolveColor(color, QPalette()));
 }
 
 PreferenceMenus::PreferenceMenus(QWidget* parent)

@@ -76,7 +76,9 @@ void Swatch::paintEvent(QPaintEvent*) {
 
 void Swatch::focusInEvent(QFocusEvent* event) {
   QWidget::focusInEvent(event);
-  reader_.LeadTo(rect(), accessibleName());
+  // Later: the dialog that gives the keyboard back may have chosen something else to show.
+  const auto tell = [this] { reader_.LeadTo(rect(), accessibleName()); };
+  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
   update();
 }
 

@@ -1,6 +1,7 @@
 #include "ui/windows/preferences/frmPreferences.h"
 
 #include <cstdint>
+#include <utility>
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -107,7 +108,9 @@ void frmPreferences::Chooser_Click(int owner) {
 
 void frmPreferences::ChooseColor(int owner) {
   const Color color = GetColors(settings_.*ChooserRows[owner].color);
-  if (color != NoColor) SetColorOf(owner, color);
+  if (color == NoColor) return;
+  SetColorOf(owner, color);
+  TellChoice(owner);
 }
 
 Color frmPreferences::GetColors(Color color) {
@@ -131,6 +134,7 @@ void frmPreferences::ChooseImage(int owner) {
   choosers_[owner].swatch->Image().SetPicture(picture);
   NameSwatch(owner);
   PositionImages();
+  TellChoice(owner);
 }
 
 // After what it shows, which those hear who do not see it.
@@ -142,6 +146,27 @@ void frmPreferences::NameSwatch(int owner) {
       swatch.Image().HasPicture()
           ? QString("%1 image, %2").arg(row.part, picture.section('/', -1))
           : QString("%1 color, %2").arg(row.part, ColorWords(settings_.*row.color)));
+}
+
+// With the keyboard a swatch tells by itself what it shows.
+void frmPreferences::TellChoice(int owner) {
+  const Swatch& swatch = *choosers_[owner].swatch;
+  if (focusWidget() == &swatch) return;
+  choice_ = swatch.accessibleName();
+  if (isActiveWindow()) TellChoiceLater();
+}
+
+// After the name of the window and of what has the keyboard.
+void frmPreferences::TellChoiceLater() {
+  const auto tell = [this] {
+    if (!choice_.isEmpty()) announcer_.Say(std::exchange(choice_, QString()));
+  };
+  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+}
+
+void frmPreferences::changeEvent(QEvent* event) {
+  SecondaryWindow::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) TellChoiceLater();
 }
 
 QString frmPreferences::GetImages() {
@@ -169,6 +194,7 @@ void frmPreferences::Chooser_MouseUp(int owner) {
 void frmPreferences::mnuSystemColorsEntry_Click(int index) {
   if (index < SystemColorCount) {
     SetColorOf(menuOwner_, SystemColor(index));
+    TellChoice(menuOwner_);
   } else {
     mnuImageOptionsEntry_Click(index);
   }

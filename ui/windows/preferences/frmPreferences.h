@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "ui/application/Announcer.h"
 #include "ui/commands/CommandContext.h"
 #include "ui/widgets/SecondaryWindow.h"
 #include "ui/windows/preferences/Choosers.h"
@@ -38,6 +39,9 @@ class frmPreferences : public SecondaryWindow {
   void cmdDefaultConfiguration_Click();
   void cmdClearScores_Click();
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   struct Chooser {
     ChooserButton* button = nullptr;
@@ -63,6 +67,9 @@ class frmPreferences : public SecondaryWindow {
   void LoadAndShowImages(bool show);
   void PositionImages();
   void NameSwatch(int owner);
+  // What the player has chosen, as soon as the window has the keyboard again.
+  void TellChoice(int owner);
+  void TellChoiceLater();
 
   const CommandContext& context_;
   PictureReader& pictures_;
@@ -74,4 +81,6 @@ class frmPreferences : public SecondaryWindow {
   PreviewBoard* pctGrid_ = nullptr;
   PreferenceMenus menus_;
   int menuOwner_ = 0;
+  QString choice_;  // still to be told
+  Announcer announcer_;
 };
