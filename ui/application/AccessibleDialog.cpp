@@ -3,20 +3,13 @@
 #include <QDialog>
 #include <QMenu>
 
-namespace {
-
-QAccessibleInterface* MakeAccessible(const QString& className, QObject* object) {
-  if (className != "QDialog") return nullptr;
-  return new AccessibleDialog(*static_cast<QDialog*>(object));
-}
-
-}  // namespace
+#include "ui/application/AccessibleFactory.h"
 
 AccessibleDialog::AccessibleDialog(QDialog& dialog)
     : QAccessibleWidget(&dialog, QAccessible::Dialog), dialog_(dialog) {}
 
 void AccessibleDialog::Install() {
-  QAccessible::installFactory(MakeAccessible);
+  InstallAccessible<AccessibleDialog, QDialog>();
 }
 
 QMenu* AccessibleDialog::OpenMenu() const {

@@ -2,20 +2,13 @@
 
 #include <QLineEdit>
 
-namespace {
-
-QAccessibleInterface* MakeAccessible(const QString& className, QObject* object) {
-  if (className != "QLineEdit") return nullptr;
-  return new AccessibleLineEdit(*static_cast<QLineEdit*>(object));
-}
-
-}  // namespace
+#include "ui/application/AccessibleFactory.h"
 
 AccessibleLineEdit::AccessibleLineEdit(QLineEdit& line)
     : QAccessibleWidget(&line, QAccessible::EditableText), line_(line) {}
 
 void AccessibleLineEdit::Install() {
-  QAccessible::installFactory(MakeAccessible);
+  InstallAccessible<AccessibleLineEdit, QLineEdit>();
 }
 
 void* AccessibleLineEdit::interface_cast(QAccessible::InterfaceType type) {

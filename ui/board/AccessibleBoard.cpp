@@ -2,17 +2,9 @@
 
 #include <QApplication>
 
+#include "ui/application/AccessibleFactory.h"
 #include "ui/board/BoardView.h"
 #include "ui/board/BoardWords.h"
-
-namespace {
-
-QAccessibleInterface* MakeAccessible(const QString& className, QObject* object) {
-  if (className != "BoardView") return nullptr;
-  return new AccessibleBoard(*static_cast<BoardView*>(object));
-}
-
-}  // namespace
 
 AccessibleBoard::AccessibleBoard(BoardView& view)
     : QAccessibleWidget(&view, QAccessible::Table), view_(view) {}
@@ -24,7 +16,7 @@ AccessibleBoard::~AccessibleBoard() {
 }
 
 void AccessibleBoard::Install() {
-  QAccessible::installFactory(MakeAccessible);
+  InstallAccessible<AccessibleBoard, BoardView>();
 }
 
 void* AccessibleBoard::interface_cast(QAccessible::InterfaceType type) {
