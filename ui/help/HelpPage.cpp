@@ -70,23 +70,19 @@ void HelpPage::PutCursorInSight() {
 }
 
 void HelpPage::backward() {
-  {
-    const ReaderEvents::Silence silence;
-    QTextBrowser::backward();
-  }
-  ReadReturnedPage();
+  ReturnBy([this] { QTextBrowser::backward(); });
 }
 
 void HelpPage::forward() {
-  {
-    const ReaderEvents::Silence silence;
-    QTextBrowser::forward();
-  }
-  ReadReturnedPage();
+  ReturnBy([this] { QTextBrowser::forward(); });
 }
 
 // The text cursor is where it was on that page, which may be far from its title.
-void HelpPage::ReadReturnedPage() {
+void HelpPage::ReturnBy(const std::function<void()>& step) {
+  {
+    const ReaderEvents::Silence silence;
+    step();
+  }
   if (!hasFocus()) return;
   const QTextCursor line = PageReading::At(textCursor(), PageReading::Unit::Line);
   const QString text = PageReading::Spoken(line.selectedText());

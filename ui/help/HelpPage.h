@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include <QTextBrowser>
 
 #include "ui/application/ReaderCursor.h"
@@ -42,7 +44,7 @@ class HelpPage : public QTextBrowser {
   void MakeLinksLegible();
   void PutCursorInSight();
   void Read(PageReading::Unit unit);
-  void ReadReturnedPage();
+  void ReturnBy(const std::function<void()>& step);
   void Tell(const QString& text, int from);
   bool GoToLink(bool next);
 
