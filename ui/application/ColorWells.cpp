@@ -68,16 +68,17 @@ void ColorWells::MoveTo(int row, int column) {
 bool ColorWells::eventFilter(QObject*, QEvent* event) {
   const bool isEntered = event->type() == QEvent::FocusIn;
   if (isEntered || MovesOrChooses(*event)) {
-    const QString caption =
-        isEntered ? QAccessible::queryAccessibleInterface(&wells_)->text(QAccessible::Name) + ", "
-                  : QString();
     QMetaObject::invokeMethod(
-        this, [this, caption] { Tell(caption); }, Qt::QueuedConnection);
+        this, [this, isEntered] { Tell(isEntered); }, Qt::QueuedConnection);
   }
   return false;
 }
 
-void ColorWells::Tell(const QString& caption) {
+void ColorWells::Tell(bool withCaption) {
+  if (!QAccessible::isActive()) return;
+  const QString caption =
+      withCaption ? QAccessible::queryAccessibleInterface(&wells_)->text(QAccessible::Name) + ", "
+                  : QString();
   const bool isChosen = row_ == ChosenRow() && column_ == ChosenColumn();
   reader_.LeadTo(wells_.rect(),
                  caption + SpokenColor(colors_(row_, column_)) + (isChosen ? ", selected" : ""));

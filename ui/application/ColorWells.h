@@ -31,8 +31,8 @@ class ColorWells : public QObject {
   ColorWells(QWidget& wells, Colors colors);
 
   Q_SLOT void MoveTo(int row, int column);
-  // caption: what the squares are called, for a player who has just come to them.
-  void Tell(const QString& caption);
+  // withCaption: with what the squares are called, for a player who has just come to them.
+  void Tell(bool withCaption);
   // Negative where none of these squares is chosen.
   int ChosenRow() const;
   int ChosenColumn() const;
