@@ -164,6 +164,19 @@ TEST_F(Play, ShowsAScreenReaderATableOfNamedSquares) {
   EXPECT_EQ(board->focusChild(), table->cellAt(1, 2));
 }
 
+TEST_F(Play, ShowsAScreenReaderWhatASquareIsWhereItLies) {
+  Open();
+  QAccessibleInterface* board = QAccessible::queryAccessibleInterface(&Window().Board());
+  QAccessibleInterface* square = board->tableInterface()->cellAt(1, 2);
+  QAccessibleTextInterface* text = square->textInterface();
+  ASSERT_NE(text, nullptr);
+  EXPECT_EQ(text->text(0, text->characterCount()), "C7, can be reached");
+  EXPECT_EQ(text->characterRect(0), square->rect());
+  ClickSquare(2, 1);
+  text = square->textInterface();
+  EXPECT_EQ(text->text(0, text->characterCount()), "C7, knight");
+}
+
 TEST_F(Play, LetsAScreenReaderPressASquare) {
   Open();
   QAccessibleInterface* board = QAccessible::queryAccessibleInterface(&Window().Board());
