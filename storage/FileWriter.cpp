@@ -21,8 +21,8 @@ bool IsRefusedByFolder() {
   return errno == EACCES || errno == EPERM || errno == EROFS || errno == EBUSY;
 }
 
-// Another copy of the program may take a saving file that has no lock yet for left and remove it;
-// another computer any, on a disk whose locks hold on one computer only.
+// Another copy of the program may remove a saving file that it takes for left: one that has no lock
+// yet, and any on a disk whose locks hold on one computer only.
 constexpr int MostSavingFiles = 5;
 
 enum class Replaced { Yes, No, NotInThisWay, FileIsGone };
